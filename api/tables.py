@@ -1,0 +1,222 @@
+"""The model behind the tables: reads api/*.toml and expands every entry into its functions.
+
+A member is "types : descriptors"; each type with each descriptor is one function, whose name is
+keli<operation>_<type>_<descriptor>. An argument is written as its name where the name tells its
+role (pSrc, dstStep, roiSize, ...), else as name:role or name:role:type, a blank in a type as ~.
+"""
+
+import re
+import tomllib
+from dataclasses import dataclass, field
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+TABLES = ["core", "data"]
+
+# Names whose role needs no mention in a table; every other argument is written name:role[:type].
+ROLE_OF_NAME = {
+    "pSrc": "source", "pSrc1": "source", "pSrc2": "source", "pDst": "destination",
+    "pSrcDst": "inOut", "pMask": "mask", "roiSize": "region", "value": "constant",
+    "scaleFactor": "scaleFactor",
+}
+IMAGES = {"source", "destination", "inOut", "mask", "sourceChannel", "destinationChannel"}
+WRITTEN = {"destination", "destinationChannel", "inOut"}
+LAYOUT = re.compile(r"A?[CP]\d")
+DESCRIPTOR = re.compile(r"((?:A?[CP]\d){1,2})(C?)(I?)(M?)(R?)(Sfs)?")
+TYPE_CODE = re.compile(r"\d+(?:uc|sc|fc|u|s|f)")
+
+
+@dataclass
+class Argument:
+    name: str
+    role: str
+    c_type: str  # without the array part
+    array: str  # "[3]" or ""
+    sample: str = ""  # type code of images, constants and results
+    layout: str = ""  # of images
+
+    @property
+    def pointer(self):
+        return bool(self.array) or self.c_type.endswith("*")
+
+    @property
+    def planar(self):
+        return self.role in IMAGES and "P" in self.layout
+
+    @property
+    def declaration(self):
+        return f"{self.c_type} {self.name}{self.array}"
+
+
+@dataclass
+class Function:
+    name: str
+    entry: dict
+    types: list
+    layouts: list
+    descriptor: str = ""
+    in_place: bool = False
+    arguments: list = field(default_factory=list)
+    actuals: list = field(default_factory=list)  # of the frame call
+    returns: str = "KelStatus"
+
+    @property
+    def prototype(self):
+        arguments = ", ".join(a.declaration for a in self.arguments) or "void"
+        return f"{self.returns} {self.name}({arguments})"
+
+    @property
+    def definition(self):
+        """The prototype without the names of arguments that are never read."""
+        arguments = ", ".join(a.c_type if a.role == "unread" else a.declaration
+                              for a in self.arguments)
+        return f"{self.returns} {self.name}({arguments})"
+
+
+def kel(code):
+    return f"Kel{code}"
+
+
+def used_channels(layout):
+    return 3 if layout.startswith("A") else int(layout[-1])
+
+
+# ---- Arguments ---------------------------------------------------------------------------------
+
+def make_argument(word, types, layouts):
+    name, _, rest = word.partition(":")
+    role, _, given = rest.partition(":")
+    role = role or ROLE_OF_NAME.get(name) or ("step" if name.endswith("Step") else "")
+    first, last = types[0] if types else "", types[-1] if types else ""
+    if role in ("source", "sourceChannel"):
+        code, layout, const = given or first, layouts[0], "const "
+    elif role in WRITTEN:
+        code, layout, const = given or last, layouts[-1], ""
+    elif role == "mask":
+        code, layout, const = "8u", "C1", "const "
+    if role in IMAGES:
+        if "P" in layout:
+            return Argument(name, role, f"{const}{kel(code)}* const", f"[{layout[-1]}]", code,
+                            layout)
+        return Argument(name, role, f"{const}{kel(code)}*", "", code, layout)
+    if role == "constant":
+        code = given or first
+        if layouts[0] == "C1":
+            return Argument(name, role, kel(code), "", code)
+        return Argument(name, role, f"const {kel(code)}", f"[{used_channels(layouts[0])}]", code)
+    fixed = {
+        "step": ("int", ""), "region": ("KeliSize", ""), "scaleFactor": ("int", ""),
+        "scalar": (kel(given or first), ""), "order": ("const int", "[3]"),
+        "extent": ("int", ""), "stepOut": ("int*", ""), "block": ("void*", ""),
+        "unread": (given.replace("~", " "), ""),
+    }
+    if role not in fixed:
+        raise SystemExit(f"argument '{word}': unknown role '{role}'")
+    c_type, array = fixed[role]
+    return Argument(name, role, c_type, array, (given or first) if role == "scalar" else "")
+
+
+def in_place_words(line):
+    """The argument words of an in-place member: the destination takes the last source's place, and
+    constants stand first."""
+    items = line.split()
+    sources = [i for i, w in enumerate(items) if w.split(":")[0].startswith("pSrc")]
+    last = sources[-1]
+    gone = [i for i, w in enumerate(items) if w.split(":")[0] in ("pDst", "dstStep")]
+    items[last], items[last + 1] = "pSrcDst", "srcDstStep"
+    if len(sources) == 2:
+        items[sources[0]], items[sources[0] + 1] = "pSrc", "srcStep"
+    kept = [w for i, w in enumerate(items) if i not in gone]
+    constants = [w for w in kept if w.split(":")[0] == "value"]
+    return constants + [w for w in kept if w not in constants]
+
+
+def in_place_actuals(line):
+    """What the frame's arguments (the out-of-place ones) are called in the in-place member."""
+    names = [w.split(":")[0] for w in line.split()]
+    two = "pSrc2" in names
+    renamed = {"pDst": "pSrcDst", "dstStep": "srcDstStep"}
+    if two:
+        renamed |= {"pSrc1": "pSrc", "src1Step": "srcStep", "pSrc2": "pSrcDst",
+                    "src2Step": "srcDstStep"}
+    else:
+        renamed |= {"pSrc": "pSrcDst", "srcStep": "srcDstStep"}
+    return [renamed.get(n, n) for n in names]
+
+
+# ---- Checks ------------------------------------------------------------------------------------
+
+def null_condition(function):
+    late = "values" in function.entry.get("checks", "").split()
+    pointers = [a for a in function.arguments
+                if a.pointer and not (late and a.role == "constant")]
+    parts = [f"anyNull({', '.join(a.name for a in pointers)})"]
+    parts += [f"anyPlaneNull<{a.layout[-1]}>({a.name})" for a in pointers if a.planar]
+    return " || ".join(parts)
+
+
+def names_of(function, role):
+    return ", ".join(a.name for a in function.arguments if a.role == role)
+
+
+# Check word: (status name, text for the documentation, condition that fails; "" = not applicable).
+CHECKS = {
+    "null": ("kelStatusNullPointer", "a pointer is null", null_condition),
+    "size": ("kelStatusBadSize", "roiSize is below 1 in width or height",
+             lambda f: f"badSize({names_of(f, 'region')})"),
+    "step": ("kelStatusBadStep", "a step is below 1",
+             lambda f: f"anyBadStep({names_of(f, 'step')})"),
+    "values": ("kelStatusNullPointer", "the array of values is null",
+               lambda f: next((f"anyNull({a.name})" for a in f.arguments
+                               if a.role == "constant" and a.array), "")),
+    "order": ("kelStatusBadChannelOrder", "an entry of dstOrder is outside 0..2",
+              lambda f: f"badChannelOrder({names_of(f, 'order')})"),
+}
+
+
+# ---- Functions ---------------------------------------------------------------------------------
+
+def expand(entry):
+    """All functions of an entry."""
+    returns = entry.get("returns", "KelStatus")
+    line = entry["arguments"]
+    for name in entry.get("names", []):
+        f = Function(name, entry, [], [], returns=returns)
+        f.arguments = [make_argument(w, [], []) for w in line.split()]
+        f.actuals = [a.name for a in f.arguments if a.role != "unread"]
+        yield f
+    for member in entry.get("members", []):
+        types, _, descriptors = member.partition(":")
+        for operation in entry["operation"].split():
+            for code in types.split():
+                for descriptor in descriptors.split():
+                    yield make_function(entry, operation, code, descriptor, returns, line)
+
+
+def make_function(entry, operation, code, descriptor, returns, line):
+    match = DESCRIPTOR.fullmatch(descriptor)
+    if not match:
+        raise SystemExit(f"{operation}: descriptor '{descriptor}' is not in the grammar")
+    types, layouts = TYPE_CODE.findall(code), LAYOUT.findall(match[1])
+    f = Function(f"keli{operation}_{code}_{descriptor}", entry, types, layouts, descriptor,
+                 bool(match[3]), returns=returns.format(T=kel(types[0])))
+    items = in_place_words(line) if f.in_place else line.split()
+    f.arguments = [make_argument(w, types, layouts) for w in items]
+    f.actuals = in_place_actuals(line) if f.in_place else [a.name for a in f.arguments]
+    return f
+
+
+def load():
+    tables = []
+    for name in TABLES:
+        table = tomllib.loads((ROOT / "api" / f"{name}.toml").read_text())
+        for entry in table["entry"]:
+            unknown = set(entry.get("checks", "").split()) - CHECKS.keys()
+            if unknown:
+                raise SystemExit(f"api/{name}.toml: unknown checks {sorted(unknown)}")
+            entry["functions"] = list(expand(entry))
+        tables.append(table)
+    names = [f.name for t in tables for e in t["entry"] for f in e["functions"]]
+    if len(names) != len(set(names)):
+        raise SystemExit(f"listed twice: {sorted({n for n in names if names.count(n) > 1})}")
+    return tables

@@ -1,0 +1,366 @@
+/* keli: image-processing primitives. Written by api/generate.py from the tables in api/; do not edit. */
+#ifndef KELI_H
+#define KELI_H
+
+#include "keli_types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Errors are negative, warnings positive. Nothing is written when an error is returned. */
+typedef int32_t KelStatus;
+enum {
+  kelStatusOk = 0, /* success */
+  kelStatusWarning = 1, /* the operation did nothing */
+  kelStatusNegativeSqrtWarning = 3, /* the argument of a square root was negative in some pixel */
+  kelStatusDivByZeroWarning = 6, /* a division by zero occurred in some pixel; a substitute value was written */
+  kelStatusZeroLogWarning = 7, /* the argument of a logarithm was zero in some pixel */
+  kelStatusNegativeLogWarning = 8, /* the argument of a logarithm was negative in some pixel */
+  kelStatusNoMemoryInternal = -4, /* an internal work buffer could not be allocated */
+  kelStatusBadSize = -6, /* a width or height is less than 1 */
+  kelStatusBadRange = -7, /* a lower bound exceeds its upper bound */
+  kelStatusNullPointer = -8, /* a required pointer is null */
+  kelStatusNoMemory = -9, /* a temporary buffer could not be allocated */
+  kelStatusDivisorZero = -10, /* division by a constant that is zero */
+  kelStatusEmptyRange = -13, /* a value range whose maximum does not exceed its minimum */
+  kelStatusBadStep = -14, /* a step is less than 1 */
+  kelStatusBadOrder = -15, /* a transform order outside 0..30 */
+  kelStatusBadFlag = -16, /* a transform normalisation flag other than 1, 2, 4 or 8 */
+  kelStatusBadSpec = -17, /* a specification structure of another kind */
+  kelStatusBadThresholds = -18, /* the upper threshold is below the lower one */
+  kelStatusBadAxis = -21, /* a mirror axis other than 0, 1 or 2 */
+  kelStatusBadInterpolation = -22, /* an interpolation mode other than 1, 2 or 4 */
+  kelStatusBadResizeFactor = -23, /* a resize factor not greater than 0 */
+  kelStatusBadMaskSize = -33, /* a mask or kernel size too small */
+  kelStatusBadAnchor = -34, /* an anchor outside the mask */
+  kelStatusBadEpsilon = -36, /* a comparison tolerance that is not >= 0 */
+  kelStatusStepTooSmall = -37, /* a step shorter than the row it must hold */
+  kelStatusZeroDivisor = -51, /* an integer kernel divisor of 0 */
+  kelStatusBadLevelCount = -54, /* a number of output levels outside its range */
+  kelStatusBadNoise = -55, /* a noise percentage outside 0..100 */
+  kelStatusZeroMask = -59, /* a morphology mask whose bytes are all zero */
+  kelStatusBadChannelOrder = -60, /* a channel-order entry outside 0..2 */
+  kelStatusBadLevels = -106, /* fewer than 2 levels in a look-up table */
+  kelStatusBadHistogramLevels = -107, /* fewer than 2 levels in a histogram range */
+  kelStatusBadCompareOp = -9999, /* a comparison operation that the function does not know */
+};
+
+/* ==== Image memory, version ==== */
+
+/**
+ * Allocates an image whose rows start on 32-byte boundaries.
+ *
+ *     step = widthPixels * bytes of a pixel (P3: of a sample), rounded up to a multiple of 32
+ *
+ * Returns the address of the first pixel, a multiple of 32, and writes the step in bytes
+ * through pStepBytes. An AC4 image is allocated as a C4 image. A P3 image is one block of three
+ * planes, one after another: plane k starts k * heightPixels * step bytes after the returned
+ * address. The pixels are not initialised. Release the block with keliFree.
+ *
+ * Returns null, and does nothing else, when pStepBytes is null; null with a step of 0 when a
+ * width or height is less than 1; null with the step written (modulo 2^32) when the heap is
+ * exhausted or the block's byte count does not fit a signed 32-bit integer.
+ */
+KELI_API Kel8u* keliMalloc_8u_C1(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel8u* keliMalloc_8u_C2(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel8u* keliMalloc_8u_C3(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel8u* keliMalloc_8u_C4(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel8u* keliMalloc_8u_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel8u* keliMalloc_8u_P3(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel16u* keliMalloc_16u_C1(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel16u* keliMalloc_16u_C2(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel16u* keliMalloc_16u_C3(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel16u* keliMalloc_16u_C4(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel16u* keliMalloc_16u_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel16u* keliMalloc_16u_P3(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel16s* keliMalloc_16s_C1(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel16s* keliMalloc_16s_C2(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel16s* keliMalloc_16s_C3(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel16s* keliMalloc_16s_C4(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel16s* keliMalloc_16s_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel16s* keliMalloc_16s_P3(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32s* keliMalloc_32s_C1(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32s* keliMalloc_32s_C2(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32s* keliMalloc_32s_C3(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32s* keliMalloc_32s_C4(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32s* keliMalloc_32s_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32s* keliMalloc_32s_P3(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32f* keliMalloc_32f_C1(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32f* keliMalloc_32f_C2(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32f* keliMalloc_32f_C3(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32f* keliMalloc_32f_C4(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32f* keliMalloc_32f_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32f* keliMalloc_32f_P3(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32sc* keliMalloc_32sc_C1(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32sc* keliMalloc_32sc_C2(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32sc* keliMalloc_32sc_C3(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32sc* keliMalloc_32sc_C4(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32sc* keliMalloc_32sc_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32sc* keliMalloc_32sc_P3(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32fc* keliMalloc_32fc_C1(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32fc* keliMalloc_32fc_C2(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32fc* keliMalloc_32fc_C3(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32fc* keliMalloc_32fc_C4(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32fc* keliMalloc_32fc_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+KELI_API Kel32fc* keliMalloc_32fc_P3(int widthPixels, int heightPixels, int* pStepBytes);
+
+/**
+ * Releases a block from any of the allocators.
+ *
+ * ptr is the address that the allocator returned; null is ignored.
+ */
+KELI_API void keliFree(void* ptr);
+
+/**
+ * Returns the library's identity: a static record, neither to be changed nor freed.
+ */
+KELI_API const KelLibraryVersion* keliGetLibVersion(void);
+
+/**
+ * Draws nothing: reserved for text drawing.
+ *
+ * Reads none of its arguments, writes nothing and always returns kelStatusWarning (1).
+ */
+KELI_API KelStatus keliDrawText_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const char* text, KeliPoint origin, const Kel8u* color, int height);
+
+/* ==== Copy, set and channel exchange ==== */
+
+/**
+ * Copies a region.
+ *
+ *     dst = src
+ *
+ * AC4 leaves the fourth sample of every destination pixel as it was. Source and destination may
+ * be the same image; regions that overlap otherwise give an undefined result.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliCopy_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_8u_C4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_C4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Copies the pixels of a region that a mask selects.
+ *
+ *     dst = src where mask != 0
+ *
+ * The mask is a one-channel 8u image of the region's size; any byte other than 0 selects the
+ * pixel. The other pixels keep their values, and AC4 leaves the fourth sample of every pixel as
+ * it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliCopy_8u_C1MR(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliCopy_8u_C3MR(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliCopy_8u_C4MR(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliCopy_8u_AC4MR(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliCopy_16s_C1MR(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliCopy_16s_C3MR(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliCopy_16s_C4MR(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliCopy_16s_AC4MR(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliCopy_32f_C1MR(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliCopy_32f_C3MR(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliCopy_32f_C4MR(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliCopy_32f_AC4MR(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+
+/**
+ * Copies one channel of an interleaved image into a one-channel image.
+ *
+ *     dst[x] = src[channels * x]
+ *
+ * pSrc addresses the wanted channel of the first pixel: pSrc + 1 selects the second channel. No
+ * sample after the last pixel's wanted one is read.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliCopy_8u_C3C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_8u_C4C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_C3C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_C4C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_C3C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_C4C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Copies a one-channel image into one channel of an interleaved image.
+ *
+ *     dst[channels * x] = src[x]
+ *
+ * pDst addresses the wanted channel of the first pixel. The other channels keep their values.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliCopy_8u_C1C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_8u_C1C4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_C1C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_C1C4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_C1C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_C1C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Copies one channel of an interleaved image into one channel of another.
+ *
+ *     dst[channels * x] = src[channels * x]
+ *
+ * Each pointer addresses the wanted channel of its first pixel; the two may differ. The other
+ * channels of the destination keep their values.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliCopy_8u_C3CR(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_8u_C4CR(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_C3CR(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_C4CR(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_C3CR(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_C4CR(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Copies the three colour channels between three- and four-channel pixels.
+ *
+ *     dst[k] = src[k], k = 0, 1, 2
+ *
+ * C3AC4 leaves the fourth sample of every destination pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliCopy_8u_AC4C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_8u_C3AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_AC4C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_C3AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_AC4C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_C3AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Splits an interleaved image into planes, or interleaves planes.
+ *
+ *     C3P3: dst[k][x] = src[3 * x + k]; P3C3: dst[3 * x + k] = src[k][x]
+ *
+ * The planes are given as an array of pointers, one for each channel, and share one step. A
+ * null pointer inside the array is reported as a null pointer.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliCopy_8u_C3P3R(const Kel8u* pSrc, int srcStep, Kel8u* const pDst[3], int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_8u_C4P4R(const Kel8u* pSrc, int srcStep, Kel8u* const pDst[4], int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_8u_P3C3R(const Kel8u* const pSrc[3], int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_8u_P4C4R(const Kel8u* const pSrc[4], int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_C3P3R(const Kel16s* pSrc, int srcStep, Kel16s* const pDst[3], int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_C4P4R(const Kel16s* pSrc, int srcStep, Kel16s* const pDst[4], int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_P3C3R(const Kel16s* const pSrc[3], int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_16s_P4C4R(const Kel16s* const pSrc[4], int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_C3P3R(const Kel32f* pSrc, int srcStep, Kel32f* const pDst[3], int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_C4P4R(const Kel32f* pSrc, int srcStep, Kel32f* const pDst[4], int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_P3C3R(const Kel32f* const pSrc[3], int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliCopy_32f_P4C4R(const Kel32f* const pSrc[4], int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Sets every pixel of a region to a constant.
+ *
+ *     dst = value
+ *
+ * The constant is one value for C1 and an array of one value for each channel set otherwise.
+ * AC4 takes three values and leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusNullPointer if
+ * the array of values is null.
+ */
+KELI_API KelStatus keliSet_8u_C1R(Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_8u_C3R(const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_8u_C4R(const Kel8u value[4], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_8u_AC4R(const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_16s_C1R(Kel16s value, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_16s_C3R(const Kel16s value[3], Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_16s_C4R(const Kel16s value[4], Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_16s_AC4R(const Kel16s value[3], Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_32f_C1R(Kel32f value, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_32f_C3R(const Kel32f value[3], Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_32f_C4R(const Kel32f value[4], Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_32f_AC4R(const Kel32f value[3], Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Sets the pixels of a region that a mask selects to a constant.
+ *
+ *     dst = value where mask != 0
+ *
+ * The mask is a one-channel 8u image of the region's size; any byte other than 0 selects the
+ * pixel. The other pixels keep their values, and AC4 leaves the fourth sample of every pixel as
+ * it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusNullPointer if
+ * the array of values is null.
+ */
+KELI_API KelStatus keliSet_8u_C1MR(Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliSet_8u_C3MR(const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliSet_8u_C4MR(const Kel8u value[4], Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliSet_8u_AC4MR(const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliSet_16s_C1MR(Kel16s value, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliSet_16s_C3MR(const Kel16s value[3], Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliSet_16s_C4MR(const Kel16s value[4], Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliSet_16s_AC4MR(const Kel16s value[3], Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliSet_32f_C1MR(Kel32f value, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliSet_32f_C3MR(const Kel32f value[3], Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliSet_32f_C4MR(const Kel32f value[4], Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+KELI_API KelStatus keliSet_32f_AC4MR(const Kel32f value[3], Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
+
+/**
+ * Sets one channel of an interleaved image to a constant.
+ *
+ *     dst[channels * x] = value
+ *
+ * pDst addresses the wanted channel of the first pixel. The other channels keep their values.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSet_8u_C3CR(Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_8u_C4CR(Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_16s_C3CR(Kel16s value, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_16s_C4CR(Kel16s value, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_32f_C3CR(Kel32f value, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSet_32f_C4CR(Kel32f value, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Reorders the three colour channels of every pixel.
+ *
+ *     dst[k] = src[dstOrder[k]], k = 0, 1, 2
+ *
+ * Each entry of dstOrder lies in 0..2; a channel may be duplicated. AC4 leaves the fourth
+ * sample of every destination pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusBadChannelOrder
+ * if an entry of dstOrder is outside 0..2.
+ */
+KELI_API KelStatus keliSwapChannels_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const int dstOrder[3]);
+KELI_API KelStatus keliSwapChannels_8u_C3IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const int dstOrder[3]);
+KELI_API KelStatus keliSwapChannels_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const int dstOrder[3]);
+KELI_API KelStatus keliSwapChannels_16u_C3R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, const int dstOrder[3]);
+KELI_API KelStatus keliSwapChannels_16u_AC4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, const int dstOrder[3]);
+KELI_API KelStatus keliSwapChannels_32s_C3R(const Kel32s* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize, const int dstOrder[3]);
+KELI_API KelStatus keliSwapChannels_32s_AC4R(const Kel32s* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize, const int dstOrder[3]);
+KELI_API KelStatus keliSwapChannels_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const int dstOrder[3]);
+KELI_API KelStatus keliSwapChannels_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const int dstOrder[3]);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

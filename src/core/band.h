@@ -1,0 +1,65 @@
+// A band: the rows that one call of a row kernel works on. Kernels loop over the band's rows
+// themselves, so that constants are set up and the kernel is entered once for a region and not once
+// for a row: at 64 pixels a row an indirect call for each would cost as much as its work.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "core/types.h"
+
+namespace keli {
+
+template <int kSources>
+struct Band {
+  const std::uint8_t* src[kSources > 0 ? kSources : 1];
+  std::ptrdiff_t srcStep[kSources > 0 ? kSources : 1];
+  std::uint8_t* dst;
+  std::ptrdiff_t dstStep;
+  std::size_t n;     // samples of a row, or pixels: the kernel says which
+  std::size_t rows;
+
+  template <class T>
+  const T* srcRow(int i, std::size_t y) const {
+    return reinterpret_cast<const T*>(src[i] + static_cast<std::ptrdiff_t>(y) * srcStep[i]);
+  }
+
+  template <class T>
+  T* dstRow(std::size_t y) const {
+    return reinterpret_cast<T*>(dst + static_cast<std::ptrdiff_t>(y) * dstStep);
+  }
+};
+
+inline const std::uint8_t* bytes(const void* p) { return static_cast<const std::uint8_t*>(p); }
+inline std::uint8_t* bytes(void* p) { return static_cast<std::uint8_t*>(p); }
+
+inline Band<0> makeBand(void* dst, int dstStep, std::size_t n, int height) {
+  return {{nullptr}, {0}, bytes(dst), dstStep, n, static_cast<std::size_t>(height)};
+}
+
+inline Band<1> makeBand(const void* src, int srcStep, void* dst, int dstStep, std::size_t n,
+                        int height) {
+  return {{bytes(src)}, {srcStep}, bytes(dst), dstStep, n, static_cast<std::size_t>(height)};
+}
+
+inline Band<2> makeBand(const void* src1, int src1Step, const void* src2, int src2Step, void* dst,
+                        int dstStep, std::size_t n, int height) {
+  return {{bytes(src1), bytes(src2)}, {src1Step, src2Step}, bytes(dst), dstStep, n,
+          static_cast<std::size_t>(height)};
+}
+
+// Makes one long row of a region without padding. unit: bytes of one of the n in each source, then in
+// the destination.
+template <int kSources>
+inline void joinRows(Band<kSources>& b, const std::size_t (&unit)[kSources + 1]) {
+  bool contiguous = static_cast<std::size_t>(b.dstStep) == b.n * unit[kSources];
+  for (int i = 0; i < kSources; ++i) {
+    contiguous = contiguous && static_cast<std::size_t>(b.srcStep[i]) == b.n * unit[i];
+  }
+  if (contiguous) {
+    b.n *= b.rows;
+    b.rows = 1;
+  }
+}
+
+}  // namespace keli

@@ -1,0 +1,189 @@
+// Row drivers of the pixel-wise operations: dst[i] = op(src1[i], ...) over the rows of a band.
+//
+// An operation (Op) has
+//   kPeriod                 length of the cycle of its constants: 1, or the number of channels
+//   kUnroll                 vectors in flight, a multiple of the cycle where that is 3
+//   at(d, phase)            what a vector that starts at that phase of the cycle needs, loop-invariant
+//   vector(d, at, a...)     the vector form; d is the tag of the destination's samples
+//   scalar(phase, a...)     the definition; it alone runs on the scalar target
+// A keeper (Keep) tells which destination samples are written: all, or the first kUsed of every
+// kPeriod; the row then ends with the last sample written, and nothing after it is touched.
+//
+// Rows of at least a vector: the last vector is computed first and stored last, which is right in
+// place too. Shorter rows: the same with vectors of 16, 8 and 4 bytes, then samples.
+#if defined(KELI_CORE_MAP_INL_H_) == defined(HWY_TARGET_TOGGLE)
+#ifdef KELI_CORE_MAP_INL_H_
+#undef KELI_CORE_MAP_INL_H_
+#else
+#define KELI_CORE_MAP_INL_H_
+#endif
+
+#include <algorithm>
+
+#include "core/band.h"
+#include "core/simd-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace keli::HWY_NAMESPACE {
+
+struct Nothing {};
+
+struct KeepNone {
+  static constexpr std::size_t kPeriod = 1;
+  static constexpr std::size_t kTrim = 0;
+  static constexpr bool written(std::size_t) { return true; }
+  template <class D>
+  HWY_INLINE Nothing at(D, std::size_t) const {
+    return {};
+  }
+  template <class D, class V, class T>
+  HWY_INLINE V merge(D, Nothing, V v, const T*) const {
+    return v;
+  }
+};
+
+// Writes the samples whose position in a cycle of kCycle is below kUsed: KeepOthers<4, 3> is AC4,
+// KeepOthers<3, 1> one channel of three.
+template <std::size_t kCycle, std::size_t kUsed>
+struct KeepOthers {
+  static constexpr std::size_t kPeriod = kCycle;
+  static constexpr std::size_t kTrim = kCycle - kUsed;
+  static constexpr bool written(std::size_t phase) { return phase < kUsed; }
+  template <class D>
+  HWY_INLINE auto at(D d, std::size_t phase) const {
+    return cycleMask<kCycle, kUsed>(d, phase);
+  }
+  template <class D, class M, class V, class T>
+  HWY_INLINE V merge(D d, M mask, V v, const T* dst) const {
+    return hn::IfThenElse(mask, v, hn::LoadU(d, dst));
+  }
+};
+
+namespace map {
+
+constexpr std::size_t cycle(std::size_t a, std::size_t b) { return a == 1 ? b : a; }
+
+template <class Op, class Keep, class TD, class... TS>
+struct Row {
+  static constexpr std::size_t kPeriod = cycle(Op::kPeriod, Keep::kPeriod);
+  static_assert(Op::kPeriod == 1 || Keep::kPeriod == 1 || Op::kPeriod == Keep::kPeriod);
+  static_assert(kPeriod != 3 || Op::kUnroll % 3 == 0);
+  static constexpr std::size_t kWidest = std::max({sizeof(TD), sizeof(TS)...});
+
+  template <class D>
+  struct Vector {  // of a vector that starts at one phase: the loop-invariant parts
+    decltype(std::declval<Op>().at(D(), 0)) op;
+    decltype(std::declval<Keep>().at(D(), 0)) keep;
+  };
+
+  template <class D>
+  static HWY_INLINE Vector<D> at(D d, const Op& op, std::size_t phase) {
+    return {op.at(d, phase), Keep().at(d, phase)};
+  }
+
+  template <class D>
+  static HWY_INLINE auto compute(D d, const Op& op, const Vector<D>& k, const TD* dst,
+                                 const TS*... src) {
+    return Keep().merge(d, k.keep, op.vector(d, k.op, hn::LoadU(hn::Rebind<TS, D>(), src)...), dst);
+  }
+
+  static HWY_INLINE void samples(const Op& op, std::size_t n, TD* dst, const TS*... src) {
+    for (std::size_t i = 0; i < n; ++i) {
+      const std::size_t phase = i % kPeriod;
+      if (Keep::written(phase)) store<TD>(op.scalar(phase, load(src + i)...), dst + i);
+    }
+  }
+
+  // n at least a vector.
+  template <class D>
+  static HWY_INLINE void vectors(D d, const Op& op, std::size_t n, TD* dst, const TS*... src) {
+    constexpr std::size_t kN = hn::MaxLanes(D());
+    constexpr std::size_t kUnroll = Op::kUnroll;
+    const std::size_t end = n - kN;
+    const Vector<D> kLast = at(d, op, end % kPeriod);
+    const auto last = compute(d, op, kLast, dst + end, (src + end)...);
+    // Every kDistinct-th vector starts at the same phase.
+    constexpr std::size_t kDistinct = kN % kPeriod == 0 ? 1 : kPeriod;
+    Vector<D> k[kDistinct];
+    unrolled<kDistinct>([&](auto u) HWY_ATTR { k[u] = at(d, op, u * kN % kPeriod); });
+    std::size_t i = 0;
+    for (; i + kUnroll * kN <= end; i += kUnroll * kN) {
+      std::remove_const_t<decltype(last)> v[kUnroll];
+      unrolled<kUnroll>([&](auto u) HWY_ATTR {
+        v[u] = compute(d, op, k[u % kDistinct], dst + i + u * kN, (src + i + u * kN)...);
+      });
+      unrolled<kUnroll>([&](auto u) HWY_ATTR { hn::StoreU(v[u], d, dst + i + u * kN); });
+    }
+    unrolled<kUnroll>([&](auto u) HWY_ATTR {
+      if (i < end) {
+        hn::StoreU(compute(d, op, k[u % kDistinct], dst + i, (src + i)...), d, dst + i);
+        i += kN;
+      }
+    });
+    hn::StoreU(last, d, dst + end);
+  }
+
+  // Fewer samples than a vector twice as long as the longest tried here.
+  template <std::size_t kBytes>
+  static HWY_INLINE void shorter(const Op& op, std::size_t n, TD* dst, const TS*... src) {
+    using D = hn::CappedTag<TD, kBytes / kWidest>;
+    constexpr std::size_t kN = hn::MaxLanes(D());
+    if (n >= kN) {
+      const D d;
+      const std::size_t end = n - kN;
+      const auto last = compute(d, op, at(d, op, end % kPeriod), dst + end, (src + end)...);
+      if (end != 0) hn::StoreU(compute(d, op, at(d, op, 0), dst, src...), d, dst);
+      hn::StoreU(last, d, dst + end);
+    } else if constexpr (kBytes > 4 && kBytes / 2 >= kWidest) {
+      shorter<kBytes / 2>(op, n, dst, src...);
+    } else {
+      samples(op, n, dst, src...);
+    }
+  }
+
+  static HWY_INLINE void run(const Op& op, std::size_t n, TD* dst, const TS*... src) {
+    if constexpr (kScalarTarget) {
+      samples(op, n, dst, src...);
+    } else {
+      using D = hn::CappedTag<TD, HWY_MAX_BYTES / kWidest>;
+      constexpr std::size_t kN = hn::MaxLanes(D());
+      if (HWY_LIKELY(n >= kN)) {
+        vectors(D(), op, n, dst, src...);
+      } else {
+        shorter<kN * kWidest / 2>(op, n, dst, src...);
+      }
+    }
+  }
+};
+
+}  // namespace map
+
+// Drivers over a band of n samples a row, for no, one and two sources.
+template <class TD, class Keep = KeepNone, class Op>
+HWY_INLINE void mapRows(const Band<0>& b, const Op& op) {
+  for (std::size_t y = 0; y < b.rows; ++y) {
+    map::Row<Op, Keep, TD>::run(op, b.n - Keep::kTrim, b.template dstRow<TD>(y));
+  }
+}
+
+template <class TS, class TD, class Keep = KeepNone, class Op>
+HWY_INLINE void mapRows(const Band<1>& b, const Op& op) {
+  for (std::size_t y = 0; y < b.rows; ++y) {
+    map::Row<Op, Keep, TD, TS>::run(op, b.n - Keep::kTrim, b.template dstRow<TD>(y),
+                                    b.template srcRow<TS>(0, y));
+  }
+}
+
+template <class TS1, class TS2, class TD, class Keep = KeepNone, class Op>
+HWY_INLINE void mapRows(const Band<2>& b, const Op& op) {
+  for (std::size_t y = 0; y < b.rows; ++y) {
+    map::Row<Op, Keep, TD, TS1, TS2>::run(op, b.n - Keep::kTrim, b.template dstRow<TD>(y),
+                                          b.template srcRow<TS1>(0, y),
+                                          b.template srcRow<TS2>(1, y));
+  }
+}
+
+}  // namespace keli::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#endif  // per-target include guard

@@ -1,0 +1,89 @@
+// Row driver of masked operations: where the mask byte is not 0, the pixel (of kPixel bytes) takes the
+// source's value. Which bytes a pixel takes is all that matters, not its type and channels.
+//
+// A source has
+//   vector(d, v, offset)   the destination vector at a byte offset of the row; v is its place in a step
+//   byte(j, offset)        the value of byte j of the pixel that starts at offset
+// Rows end with a step that overlaps the one before: written twice, the result is the same.
+#if defined(KELI_CORE_MASKED_INL_H_) == defined(HWY_TARGET_TOGGLE)
+#ifdef KELI_CORE_MASKED_INL_H_
+#undef KELI_CORE_MASKED_INL_H_
+#else
+#define KELI_CORE_MASKED_INL_H_
+#endif
+
+#include "core/shuffle-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace keli::HWY_NAMESPACE {
+
+// kUsed: bytes of a pixel that are written at all, fewer than kPixel for AC4.
+template <std::size_t kPixel, std::size_t kUsed>
+struct Masked {
+  // Repeats each mask byte for every byte of its pixel.
+  struct Spread {
+    static constexpr std::size_t kSrc = 1;
+    static constexpr std::size_t kDst = kPixel;
+    static constexpr std::size_t kSpan = 1;
+    static constexpr std::size_t from(std::size_t) { return 0; }
+  };
+
+  template <class Source>
+  static HWY_INLINE void pixels(const std::uint8_t* mask, const Source& source, std::uint8_t* dst,
+                                std::size_t x, std::size_t n) {
+    for (; x < n; ++x) {
+      if (mask[x] == 0) continue;
+      for (std::size_t j = 0; j < kUsed; ++j) dst[x * kPixel + j] = source.byte(j, x * kPixel);
+    }
+  }
+
+  template <class D, class Source>
+  static HWY_INLINE void step(D d, const std::uint8_t* mask, const Source& source, std::uint8_t* dst,
+                              std::size_t x) {
+    constexpr std::size_t kN = hn::MaxLanes(D());
+    using Plan = ShufflePlan<Spread, kN>;
+    unrolled<Plan::kVectors>([&](auto v) HWY_ATTR {
+      const std::size_t offset = x * kPixel + v * kN;
+      hn::Vec<D> wanted;
+      if constexpr (kPixel == 1) {
+        wanted = hn::LoadU(d, mask + x);
+      } else {
+        wanted = shuffled<v>(d, mask + x, ShuffleIndices<Spread, D>::fixed());
+      }
+      if constexpr (kUsed < kPixel) {
+        wanted = hn::IfThenElseZero(cycleMask<kPixel, kUsed>(d, v * kN % kPixel), wanted);
+      }
+      const auto keep = hn::Eq(wanted, hn::Zero(d));
+      hn::StoreU(hn::IfThenElse(keep, hn::LoadU(d, dst + offset), source.vector(d, v, offset)), d,
+                 dst + offset);
+    });
+  }
+
+  template <class D, class Source>
+  static HWY_INLINE bool steps(D d, const std::uint8_t* mask, const Source& source, std::uint8_t* dst,
+                               std::size_t n) {
+    constexpr std::size_t kPixels = ShufflePlan<Spread, hn::MaxLanes(D())>::kPixels;
+    if (n < kPixels) return false;
+    const std::size_t end = n - kPixels;
+    for (std::size_t x = 0; x < end; x += kPixels) step(d, mask, source, dst, x);
+    step(d, mask, source, dst, end);
+    return true;
+  }
+
+  template <class Source>
+  static HWY_INLINE void row(const std::uint8_t* mask, const Source& source, std::uint8_t* dst,
+                             std::size_t n) {
+    if constexpr (!kScalarTarget) {
+      if (steps(hn::CappedTag<std::uint8_t, 32>(), mask, source, dst, n) ||
+          steps(hn::CappedTag<std::uint8_t, 16>(), mask, source, dst, n)) {
+        return;
+      }
+    }
+    pixels(mask, source, dst, 0, n);
+  }
+};
+
+}  // namespace keli::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#endif  // per-target include guard

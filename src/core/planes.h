@@ -1,0 +1,59 @@
+// A band of images that may be planar: up to four planes that share a step. An interleaved image is
+// its plane 0.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "core/types.h"
+
+namespace keli {
+
+struct PlanesBand {
+  const std::uint8_t* src[4];
+  std::uint8_t* dst[4];
+  std::ptrdiff_t srcStep;
+  std::ptrdiff_t dstStep;
+  std::size_t n;  // pixels of a row
+  std::size_t rows;
+
+  template <class T>
+  const T* srcRow(int plane, std::size_t y) const {
+    return reinterpret_cast<const T*>(src[plane] + static_cast<std::ptrdiff_t>(y) * srcStep);
+  }
+
+  template <class T>
+  T* dstRow(int plane, std::size_t y) const {
+    return reinterpret_cast<T*>(dst[plane] + static_cast<std::ptrdiff_t>(y) * dstStep);
+  }
+};
+
+// An argument that is a pointer to an image, or an array of pointers to planes.
+template <Layout kLayout, class Byte, class Image>
+inline void setPlanes(Byte* (&planes)[4], Image image) {
+  if constexpr (isPlanar(kLayout)) {
+    for (int k = 0; k < usedChannels(kLayout); ++k) planes[k] = reinterpret_cast<Byte*>(image[k]);
+  } else {
+    planes[0] = reinterpret_cast<Byte*>(image);
+  }
+}
+
+template <Layout kFrom, Layout kTo, class TS, class TD, class Source, class Destination>
+inline PlanesBand makePlanesBand(Source src, int srcStep, Destination dst, int dstStep, KeliSize size) {
+  PlanesBand b = {};
+  setPlanes<kFrom>(b.src, src);
+  setPlanes<kTo>(b.dst, dst);
+  b.srcStep = srcStep;
+  b.dstStep = dstStep;
+  b.n = static_cast<std::size_t>(size.width);
+  b.rows = static_cast<std::size_t>(size.height);
+  // Images without padding are one long row.
+  if (b.n * sizeof(TS) * pixelSamples(kFrom) == static_cast<std::size_t>(srcStep) &&
+      b.n * sizeof(TD) * pixelSamples(kTo) == static_cast<std::size_t>(dstStep)) {
+    b.n *= b.rows;
+    b.rows = 1;
+  }
+  return b;
+}
+
+}  // namespace keli

@@ -1,0 +1,69 @@
+// Row kernels of Copy of whole pixels and of single channels: dst = src.
+#include "data/copy_rows.h"
+
+#include "core/simd_config.h"
+#include "core/target.h"
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "data/copy_rows.cc"
+#include <hwy/foreach_target.h>
+//
+#include "core/map-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace keli::HWY_NAMESPACE {
+
+struct Identity {
+  static constexpr std::size_t kPeriod = 1;
+  static constexpr std::size_t kUnroll = 4;
+  template <class D>
+  HWY_INLINE Nothing at(D, std::size_t) const {
+    return {};
+  }
+  template <class D, class V>
+  HWY_INLINE V vector(D, Nothing, V a) const {
+    return a;
+  }
+  template <class T>
+  HWY_INLINE T scalar(std::size_t, T a) const {
+    return a;
+  }
+};
+
+// One channel of three: the vectors in flight are whole cycles.
+struct IdentityC3 : Identity {
+  static constexpr std::size_t kUnroll = 3;
+};
+
+void ownCopy(const Band<1>& b) { mapRows<std::uint8_t, std::uint8_t>(b, Identity()); }
+
+template <class T>
+void ownCopyAC4(const Band<1>& b) {
+  mapRows<T, T, KeepOthers<4, 3>>(b, Identity());
+}
+
+template <class T>
+void ownCopyC3C(const Band<1>& b) {
+  mapRows<T, T, KeepOthers<3, 1>>(b, IdentityC3());
+}
+
+template <class T>
+void ownCopyC4C(const Band<1>& b) {
+  mapRows<T, T, KeepOthers<4, 1>>(b, Identity());
+}
+
+const data::CopyRows kCopyRows = {
+    ownCopy,
+    KELI_BY_SIZE(ownCopyAC4),
+    KELI_BY_SIZE(ownCopyC3C),
+    KELI_BY_SIZE(ownCopyC4C),
+};
+
+}  // namespace keli::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace keli::data {
+KELI_SELECT_ROWS(CopyRows, kCopyRows, copyRows)
+}  // namespace keli::data
+#endif

@@ -1,0 +1,75 @@
+// Row kernels of masked Copy and Set: dst = src, or a value, where the mask byte is not 0.
+#include "data/masked_rows.h"
+
+#include "core/simd_config.h"
+#include "core/target.h"
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "data/masked_rows.cc"
+#include <hwy/foreach_target.h>
+//
+#include "core/masked-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace keli::HWY_NAMESPACE {
+
+struct CopySource {
+  const std::uint8_t* src;
+  template <class D>
+  HWY_INLINE hn::Vec<D> vector(D d, std::size_t, std::size_t offset) const {
+    return hn::LoadU(d, src + offset);
+  }
+  HWY_INLINE std::uint8_t byte(std::size_t j, std::size_t offset) const { return src[offset + j]; }
+};
+
+template <std::size_t kPixel, std::size_t kUsed = kPixel>
+void ownCopyMasked(const Band<2>& b) {
+  for (std::size_t y = 0; y < b.rows; ++y) {
+    Masked<kPixel, kUsed>::row(b.srcRow<std::uint8_t>(1, y), CopySource{b.srcRow<std::uint8_t>(0, y)},
+                               b.dstRow<std::uint8_t>(y), b.n);
+  }
+}
+
+// The value of one pixel, repeated.
+struct SetSource {
+  const std::uint8_t* pixels;
+  std::size_t pixelBytes;
+  template <class D>
+  HWY_INLINE hn::Vec<D> vector(D d, std::size_t v, std::size_t) const {
+    return hn::LoadU(d, pixels + v * hn::MaxLanes(D()) % pixelBytes);
+  }
+  HWY_INLINE std::uint8_t byte(std::size_t j, std::size_t) const { return pixels[j]; }
+};
+
+template <std::size_t kPixel, std::size_t kUsed = kPixel>
+void ownSetMasked(const Band<1>& b, const std::uint8_t* pixels) {
+  for (std::size_t y = 0; y < b.rows; ++y) {
+    Masked<kPixel, kUsed>::row(b.srcRow<std::uint8_t>(0, y), SetSource{pixels, kPixel},
+                               b.dstRow<std::uint8_t>(y), b.n);
+  }
+}
+
+#define KELI_BY_PIXEL(kernel)                                                              \
+  {                                                                                        \
+    nullptr, kernel<1>, kernel<2>, kernel<3>, kernel<4>, nullptr, kernel<6>, nullptr,      \
+        kernel<8>, nullptr, nullptr, nullptr, kernel<12>, nullptr, nullptr, nullptr,       \
+        kernel<16>                                                                         \
+  }
+
+const data::MaskedRows kMaskedRows = {
+    KELI_BY_PIXEL(ownCopyMasked),
+    {{ownCopyMasked<4, 3>, ownCopyMasked<8, 6>, ownCopyMasked<16, 12>}},
+    KELI_BY_PIXEL(ownSetMasked),
+    {{ownSetMasked<4, 3>, ownSetMasked<8, 6>, ownSetMasked<16, 12>}},
+};
+
+#undef KELI_BY_PIXEL
+
+}  // namespace keli::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace keli::data {
+KELI_SELECT_ROWS(MaskedRows, kMaskedRows, maskedRows)
+}  // namespace keli::data
+#endif

@@ -1,0 +1,54 @@
+// Row kernels of Set: dst = value, whole pixels or some of their channels.
+#include "data/set_rows.h"
+
+#include "core/simd_config.h"
+#include "core/target.h"
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "data/set_rows.cc"
+#include <hwy/foreach_target.h>
+//
+#include "core/map-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace keli::HWY_NAMESPACE {
+
+// The samples of a pixel in turn.
+template <class T, std::size_t kChannels>
+struct Fill {
+  static constexpr std::size_t kPeriod = kChannels;
+  static constexpr std::size_t kUnroll = kChannels == 3 ? 6 : 4;
+  const T* pattern;
+  template <class D>
+  HWY_INLINE hn::Vec<D> at(D d, std::size_t phase) const {
+    return hn::LoadU(d, pattern + phase);
+  }
+  template <class D, class V>
+  HWY_INLINE V vector(D, V at) const {
+    return at;
+  }
+  HWY_INLINE T scalar(std::size_t phase) const { return pattern[phase]; }
+};
+
+template <class T, std::size_t kChannels, class Keep>
+void ownSet(const Band<0>& b, const void* pattern) {
+  mapRows<T, Keep>(b, Fill<T, kChannels>{static_cast<const T*>(pattern)});
+}
+
+const data::SetRows kSetRows = {
+    KELI_BY_SIZE(ownSet, 1, KeepNone),
+    KELI_BY_SIZE(ownSet, 3, KeepNone),
+    KELI_BY_SIZE(ownSet, 4, KeepNone),
+    KELI_BY_SIZE(ownSet, 4, KeepOthers<4, 3>),
+    KELI_BY_SIZE(ownSet, 3, KeepOthers<3, 1>),
+    KELI_BY_SIZE(ownSet, 4, KeepOthers<4, 1>),
+};
+
+}  // namespace keli::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace keli::data {
+KELI_SELECT_ROWS(SetRows, kSetRows, setRows)
+}  // namespace keli::data
+#endif

@@ -1,0 +1,40 @@
+// Look-ups over the reflection data.
+#include "registry/registry.h"
+
+namespace keli::registry {
+namespace {
+
+struct TypeInfo {
+  const char* name;
+  std::size_t bytes;
+};
+
+constexpr TypeInfo kTypes[] = {{"", 0},   {"8u", 1},  {"8s", 1},  {"16u", 2},  {"16s", 2},  {"32s", 4},
+                               {"64s", 8}, {"32f", 4}, {"64f", 8}, {"16sc", 4}, {"32sc", 8}, {"32fc", 8}};
+
+}  // namespace
+
+const Function* find(std::string_view name) {
+  for (const Function& f : functions()) {
+    if (name == f.name) return &f;
+  }
+  return nullptr;
+}
+
+const char* statusName(KelStatus status) {
+  for (const Status& s : statuses()) {
+    if (s.value == status) return s.name;
+  }
+  return "unknown status";
+}
+
+std::size_t bytesOf(Type type) { return kTypes[static_cast<int>(type)].bytes; }
+const char* nameOf(Type type) { return kTypes[static_cast<int>(type)].name; }
+
+bool isImage(Role role) { return role <= Role::kMask; }
+
+bool isWritten(Role role) {
+  return role == Role::kDestination || role == Role::kDestinationChannel || role == Role::kInOut;
+}
+
+}  // namespace keli::registry

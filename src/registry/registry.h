@@ -1,0 +1,126 @@
+// Reflection over the exported functions, for tests, benchmarks, the tool and bindings: names,
+// arguments with their roles, the order of checks, documentation, and a uniform way to call.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "core/types.h"
+#include "keli.h"
+
+namespace keli::registry {
+
+// Sample types by their codes; kNone for arguments that hold no samples.
+enum class Type : std::uint8_t {
+  kNone, k8u, k8s, k16u, k16s, k32s, k64s, k32f, k64f, k16sc, k32sc, k32fc
+};
+
+// What an argument is for. Roles with "Channel": the pointer addresses one channel of an interleaved
+// image, and only that channel takes part.
+enum class Role : std::uint8_t {
+  kSource,
+  kSourceChannel,
+  kDestination,
+  kDestinationChannel,
+  kInOut,
+  kMask,
+  kStep,         // bytes between the rows of the image before it in the list
+  kRegion,       // KeliSize of all images
+  kConstant,     // a value or, for several channels, an array of them
+  kScalar,       // a value, whatever the layout
+  kScaleFactor,
+  kOrder,        // three channel indexes
+  kExtent,       // a width or height
+  kStepOut,      // receives a step
+  kBlock,        // a block to release
+  kUnread,       // accepted and ignored
+};
+
+enum class Check : std::uint8_t { kNull, kSize, kStep, kValues, kOrder };
+
+template <class T>
+struct Span {
+  const T* data;
+  std::size_t size;
+  const T* begin() const { return data; }
+  const T* end() const { return data + size; }
+  const T& operator[](std::size_t i) const { return data[i]; }
+};
+
+struct Argument {
+  const char* name;
+  Role role;
+  Type type;      // of the samples
+  Layout layout;  // of an image
+  int length;     // of an array (planes, constants), 0 for a single value or pointer
+};
+
+// What the functions of one shape of an operation share.
+struct Entry {
+  const char* group;
+  const char* brief;
+  const char* formula;
+  const char* text;
+  Span<Check> checks;
+};
+
+// An argument's value: p for pointers and arrays, i for integers, f for floating samples.
+union Value {
+  const void* p;
+  std::int64_t i;
+  double f;
+  KeliSize size;
+  KeliRect rect;
+  KeliPoint point;
+  Kel16sc c16;
+  Kel32sc c32;
+  Kel32fc cf;
+};
+
+// What a call returned: a status, or a pointer for the functions that return one.
+struct Result {
+  KelStatus status;
+  const void* pointer;
+};
+
+struct Call {
+  Result (*invoke)(void (*function)(), const Value* values);
+  void (*function)();
+};
+
+struct Function {
+  const char* name;
+  const char* operation;
+  const char* descriptor;
+  const char* prototype;
+  const Entry* entry;
+  Span<Argument> arguments;
+  bool inPlace;
+  bool masked;
+  Call call;
+
+  // values: one for each argument, in order.
+  Result operator()(const Value* values) const { return call.invoke(call.function, values); }
+};
+
+struct Status {
+  KelStatus value;
+  const char* name;
+  const char* text;
+};
+
+Span<Function> functions();
+Span<Status> statuses();
+
+// Null when there is none.
+const Function* find(std::string_view name);
+// "kelStatusBadSize", or "unknown status" for a value that no function returns.
+const char* statusName(KelStatus status);
+
+std::size_t bytesOf(Type type);
+const char* nameOf(Type type);  // the type code: "8u"
+bool isImage(Role role);
+bool isWritten(Role role);
+
+}  // namespace keli::registry
