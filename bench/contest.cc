@@ -12,7 +12,8 @@ namespace keli::bench {
 namespace {
 
 constexpr double kShortestMeasurement = 20e-6;
-// Above this a call moves more than the inner caches hold and no warm-up changes what it finds there.
+// Above this a call moves more than the inner caches hold and no warm-up changes what it finds
+// there.
 constexpr double kLongCall = 1e-3;
 // A variant or peer this much slower than the best of its kind after so many rounds runs no more.
 constexpr double kHopeless = 1.5;
@@ -60,8 +61,7 @@ std::vector<Contestant*> all(Contest& contest) {
   return result;
 }
 
-// Component number index of the written image as the function's layout counts them: left alone in the
-// fourth sample of AC4.
+// The fourth samples of AC4 are left alone by the functions, not by all peers.
 bool takesPart(const Image& image, std::size_t sampleInRow) {
   const std::size_t samples = image.samplesPerPixel();
   return image.layout() != Layout::AC4 || sampleInRow % samples != samples - 1;

@@ -1,5 +1,5 @@
-// libyuv's equivalents of copy, set and channel exchange. The library knows 8-bit samples; planes of
-// others are copied as bytes, and 4-byte pixels are filled as such.
+// libyuv's equivalents of copy, set and channel exchange. The library knows 8-bit samples; planes
+// of others are copied as bytes, and 4-byte pixels are filled as such.
 #include <libyuv.h>
 
 #include <cstring>
@@ -86,8 +86,8 @@ Work swapInPlace(const Frame& f) {
   };
 }
 
-// Three to four channels, and the exchange in four, write the fourth sample too, where the functions
-// on AC4 leave it alone.
+// Three to four channels, and the exchange in four, write the fourth sample too, where the
+// functions on AC4 leave it alone.
 const AddPeers kPeers({
     {"keliCopy_{8u,16s,32f}_{C1R,C3R,C4R}", "libyuv CopyPlane", copyPlane},
     {"keliCopy_8u_AC4C3R", "libyuv ARGBToRGB24", convert<libyuv::ARGBToRGB24>},

@@ -21,9 +21,8 @@ Work setTo(const Frame& f) {
 }
 
 Work setToMasked(const Frame& f) {
-  return [d = mat(f.destination()), c = constants(f), m = mat(f.mask())]() mutable {
-    d.setTo(c, m);
-  };
+  return
+      [d = mat(f.destination()), c = constants(f), m = mat(f.mask())]() mutable { d.setTo(c, m); };
 }
 
 Work extractChannel(const Frame& f) {

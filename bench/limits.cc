@@ -104,8 +104,8 @@ KELI_BENCH_AVX2 std::uint64_t readVectors(const std::uint8_t* from, std::size_t 
       sums[k] = _mm256_add_epi64(sums[k], _mm256_loadu_si256(p));
     }
   }
-  const __m256i sum = _mm256_add_epi64(_mm256_add_epi64(sums[0], sums[1]),
-                                       _mm256_add_epi64(sums[2], sums[3]));
+  const __m256i sum =
+      _mm256_add_epi64(_mm256_add_epi64(sums[0], sums[1]), _mm256_add_epi64(sums[2], sums[3]));
   return static_cast<std::uint64_t>(_mm256_extract_epi64(sum, 0)) + readWords(from + i, bytes - i);
 }
 

@@ -22,9 +22,9 @@ struct LimitVariant {
   Work work;
 };
 
-// Every way of doing what bounds a call with these arguments, over the call's own images. When source
-// and destination differ in size, a move is of the larger of the two sizes: between the image of that
-// size and a scratch block on the other side.
+// Every way of doing what bounds a call with these arguments, over the call's own images. When
+// source and destination differ in size, a move is of the larger of the two sizes: between the
+// image of that size and a scratch block on the other side.
 std::vector<LimitVariant> limitVariants(Limit limit, const Frame& frame);
 
 }  // namespace keli::bench

@@ -1,8 +1,8 @@
 // keli_bench: times the library's functions against what memory allows and against other libraries.
 //
 // Every benchmark is one function at one size. Its counters: ns and ns_pixel, the time of a call;
-// limit, the fraction of the limit's speed that the function reaches; peer, how many times as fast as
-// the best peer it is. The label names that peer and the variant that set the limit.
+// limit, the fraction of the limit's speed that the function reaches; peer, how many times as fast
+// as the best peer it is. The label names that peer and the variant that set the limit.
 #include <benchmark/benchmark.h>
 #include <omp.h>
 
@@ -11,6 +11,7 @@
 #include <cstring>
 #include <exception>
 #include <fstream>
+#include <stdexcept>
 #include <string>
 
 #include "contest.h"
@@ -108,6 +109,7 @@ void describeRun(const Options& options) {
   benchmark::AddCustomContext("compiler", "GCC " __VERSION__);
 #endif
   benchmark::AddCustomContext("processor", processorName());
+  benchmark::AddCustomContext("rounds", "at least " + std::to_string(options.effort.rounds));
   benchmark::AddCustomContext("threads", std::to_string(options.threads));
   benchmark::AddCustomContext("without_row", std::to_string(functionsWithoutRow().size()));
   for (const Family& f : families()) {

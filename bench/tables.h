@@ -26,8 +26,8 @@ struct Row {
 struct Peer {
   const char* functions;
   const char* name;  // library and function
-  // Makes ready what a user of that library would keep (headers over the same pixels) and returns the
-  // call.
+  // Makes ready what a user of that library would keep (headers over the same pixels) and returns
+  // the call.
   Work (*prepare)(const Frame& frame);
   double tolerance = 0;  // largest difference of a written sample from the function's result
 };
