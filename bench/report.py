@@ -28,8 +28,11 @@ CHARTED = [
 HEAD = """\
 # Benchmarks
 
-Processor: {processor}. Compiler: {compiler}. Threads: {threads}.
-Compared with: {libraries}. All figures are from one run ({rounds} rounds for each row).
+- Processor: {processor}
+- Compiler: {compiler}
+- Threads: {threads}
+- Compared with: {libraries}
+- All figures are from one run, with {rounds} rounds for each row.
 
 **limit** is the fraction of the limit's speed that a function reaches. The limit is the fastest way
 found, in the same run and on the same images, of moving as many bytes: for functions with a source,
@@ -160,7 +163,8 @@ def chart_rows(rows):
 
 def text(x, y, content, anchor="start", size=12, colour="#222"):
     return (f'<text x="{x:.1f}" y="{y:.1f}" text-anchor="{anchor}" font-size="{size}" '
-            f'fill="{colour}">{html.escape(content)}</text>')
+            f'fill="{colour}" paint-order="stroke" stroke="#ffffff" stroke-width="3">'
+            f"{html.escape(content)}</text>")
 
 
 def bar(x, y, width, height, colour):

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "frame.h"
-#include "limits.h"
+#include "memory_limits.h"
 
 namespace keli::bench {
 

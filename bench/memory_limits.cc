@@ -2,7 +2,7 @@
 //
 // The loops hold a compiler barrier in every round: they stay as written and do not become calls of
 // memcpy or memset.
-#include "limits.h"
+#include "memory_limits.h"
 
 #include <algorithm>
 #include <cstring>
