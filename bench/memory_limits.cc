@@ -8,7 +8,7 @@
 #include <cstring>
 #include <memory>
 
-#if defined(__x86_64__) || defined(__i386__)
+#if defined(__x86_64__)
 #include <immintrin.h>
 #define KELI_BENCH_AVX2 __attribute__((target("avx2")))
 #endif

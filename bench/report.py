@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """Turns the JSON of one run of keli_bench into docs/benchmarks.md and docs/benchmarks.svg.
 
-The document holds ratios, which carry over to other machines better than times do; only the cost of a
-call is given in nanoseconds. A run with failed rows is refused.
+The document holds ratios, which carry over to other machines better than times do; only the cost
+of a call is given in nanoseconds. A run with failed rows is refused.
 """
 
 import argparse
@@ -54,9 +54,9 @@ select about half of the pixels, in blobs.
 
 To run: `./dev bench [filter]`, where the filter is a regular expression over names such as
 `data/keliCopy_8u_C1R/640x480`; or, after a build, the program `keli_bench`, which also takes
-`--quick`, `--padded` (640x480 with rows apart) and `--threads=N`. With
-`--benchmark_out=run.json --benchmark_out_format=json` it writes what `bench/report.py run.json`
-makes this page of.
+`--quick`, `--padded` (640x480 with rows apart) and `--threads=N` (for the functions and the peers;
+the limits stay those of one thread). With `--benchmark_out=run.json --benchmark_out_format=json` it
+writes what `bench/report.py run.json` makes this page of.
 """
 
 
@@ -195,11 +195,12 @@ def chart(run):
     most = max([1.1] + [row.limit for row in rows] + theirs)
     scale = plot / most
     width, height = left + plot + right, bottom + 16
+    title = (f"Fraction of the memory limit reached at {CHART_SIZE}, "
+             f"threads: {run['context']['threads']}")
     parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{width}" height="{height}" '
              f'viewBox="0 0 {width} {height}" font-family="sans-serif">',
              bar(0, 0, width, height, "#ffffff"),
-             text(16, 24, f"Fraction of the memory limit reached at {CHART_SIZE}, one thread",
-                  size=16),
+             text(16, 24, title, size=16),
              bar(left, 36, 12, 12, OURS), text(left + 18, 46, "keli"),
              bar(left + 70, 36, 12, 12, THEIRS), text(left + 88, 46, "best peer")]
     parts += axis(left, top, bottom, scale, most)
