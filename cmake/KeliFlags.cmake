@@ -9,6 +9,8 @@ target_compile_options(keli_warnings INTERFACE -Wall -Wextra -Wshadow -Werror)
 # every compiler.
 add_library(keli_exact INTERFACE)
 target_compile_options(keli_exact INTERFACE -ffp-contract=off -fno-math-errno)
+# Kernels are vectors by hand; the compiler's own would only blow up what handles a row's last samples.
+target_compile_options(keli_exact INTERFACE -fno-tree-vectorize)
 target_compile_definitions(keli_exact INTERFACE HWY_BROKEN_EMU128=1)
 if(KELI_AVX2_ONLY)
   target_compile_definitions(keli_exact INTERFACE KELI_AVX2_ONLY)

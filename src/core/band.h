@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "core/cache.h"
 #include "core/types.h"
 
 namespace keli {
@@ -16,8 +17,9 @@ struct Band {
   std::ptrdiff_t srcStep[kSources > 0 ? kSources : 1];
   std::uint8_t* dst;
   std::ptrdiff_t dstStep;
-  std::size_t n;     // samples of a row, or pixels: the kernel says which
+  std::size_t n;        // samples of a row, or pixels: the kernel says which
   std::size_t rows;
+  bool streams;         // stores may bypass the caches; see layOut
 
   template <class T>
   const T* srcRow(int i, std::size_t y) const {
@@ -34,28 +36,37 @@ inline const std::uint8_t* bytes(const void* p) { return static_cast<const std::
 inline std::uint8_t* bytes(void* p) { return static_cast<std::uint8_t*>(p); }
 
 inline Band<0> makeBand(void* dst, int dstStep, std::size_t n, int height) {
-  return {{nullptr}, {0}, bytes(dst), dstStep, n, static_cast<std::size_t>(height)};
+  return {{nullptr}, {0}, bytes(dst), dstStep, n, static_cast<std::size_t>(height), false};
 }
 
 inline Band<1> makeBand(const void* src, int srcStep, void* dst, int dstStep, std::size_t n,
                         int height) {
-  return {{bytes(src)}, {srcStep}, bytes(dst), dstStep, n, static_cast<std::size_t>(height)};
+  return {{bytes(src)}, {srcStep}, bytes(dst), dstStep, n, static_cast<std::size_t>(height), false};
 }
 
 inline Band<2> makeBand(const void* src1, int src1Step, const void* src2, int src2Step, void* dst,
                         int dstStep, std::size_t n, int height) {
   return {{bytes(src1), bytes(src2)}, {src1Step, src2Step}, bytes(dst), dstStep, n,
-          static_cast<std::size_t>(height)};
+          static_cast<std::size_t>(height), false};
 }
 
-// Makes one long row of a region without padding. unit: bytes of one of the n in each source, then in
-// the destination.
+// Settles how a region is walked. One without padding becomes one long row. One that moves more bytes
+// than the second-level cache holds is stored around the caches, which spares reading the destination
+// before it is overwritten; not in place, where it has just been read.
+// unit: bytes of one of the n in each source, then in the destination.
 template <int kSources>
-inline void joinRows(Band<kSources>& b, const std::size_t (&unit)[kSources + 1]) {
+inline void layOut(Band<kSources>& b, const std::size_t (&unit)[kSources + 1]) {
   bool contiguous = static_cast<std::size_t>(b.dstStep) == b.n * unit[kSources];
+  bool separate = true;
+  std::size_t bytesPerUnit = unit[kSources];
   for (int i = 0; i < kSources; ++i) {
     contiguous = contiguous && static_cast<std::size_t>(b.srcStep[i]) == b.n * unit[i];
+    separate = separate && b.src[i] != b.dst;
+    bytesPerUnit += unit[i];
   }
+  // Where nothing is read, the caches serve twice as long.
+  if (kSources == 0) bytesPerUnit = (bytesPerUnit + 1) / 2;
+  b.streams = separate && exceedsCache(b.n * bytesPerUnit, b.rows);
   if (contiguous) {
     b.n *= b.rows;
     b.rows = 1;

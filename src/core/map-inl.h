@@ -10,7 +10,8 @@
 // kPeriod; the row then ends with the last sample written, and nothing after it is touched.
 //
 // Rows of at least a vector: the last vector is computed first and stored last, which is right in
-// place too. Shorter rows: the same with vectors of 16, 8 and 4 bytes, then samples.
+// place too. Shorter rows: the same with vectors of 16, 8 and 4 bytes, then samples. Vectors are of 32
+// bytes at most: longer ones measured slower, in the caches and beyond.
 #if defined(KELI_CORE_MAP_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_CORE_MAP_INL_H_
 #undef KELI_CORE_MAP_INL_H_
@@ -19,6 +20,8 @@
 #endif
 
 #include <algorithm>
+
+#include <hwy/cache_control.h>
 
 #include "core/band.h"
 #include "core/simd-inl.h"
@@ -87,32 +90,39 @@ struct Row {
     return Keep().merge(d, k.keep, op.vector(d, k.op, hn::LoadU(hn::Rebind<TS, D>(), src)...), dst);
   }
 
-  static HWY_INLINE void samples(const Op& op, std::size_t n, TD* dst, const TS*... src) {
+  static HWY_INLINE void samples(const Op& op, std::size_t phase, std::size_t n, TD* dst,
+                                 const TS*... src) {
     for (std::size_t i = 0; i < n; ++i) {
-      const std::size_t phase = i % kPeriod;
-      if (Keep::written(phase)) store<TD>(op.scalar(phase, load(src + i)...), dst + i);
+      const std::size_t place = (phase + i) % kPeriod;
+      if (Keep::written(place)) store<TD>(op.scalar(place, load(src + i)...), dst + i);
     }
   }
 
-  // n at least a vector.
-  template <class D>
-  static HWY_INLINE void vectors(D d, const Op& op, std::size_t n, TD* dst, const TS*... src) {
+  // n at least a vector; the first sample stands at `phase` of the cycle.
+  template <bool kStreams, class D>
+  static HWY_INLINE void vectors(D d, const Op& op, std::size_t phase, std::size_t n, TD* dst,
+                                 const TS*... src) {
     constexpr std::size_t kN = hn::MaxLanes(D());
     constexpr std::size_t kUnroll = Op::kUnroll;
     const std::size_t end = n - kN;
-    const Vector<D> kLast = at(d, op, end % kPeriod);
-    const auto last = compute(d, op, kLast, dst + end, (src + end)...);
+    const auto last = compute(d, op, at(d, op, (phase + end) % kPeriod), dst + end, (src + end)...);
     // Every kDistinct-th vector starts at the same phase.
     constexpr std::size_t kDistinct = kN % kPeriod == 0 ? 1 : kPeriod;
     Vector<D> k[kDistinct];
-    unrolled<kDistinct>([&](auto u) HWY_ATTR { k[u] = at(d, op, u * kN % kPeriod); });
+    unrolled<kDistinct>([&](auto u) HWY_ATTR { k[u] = at(d, op, (phase + u * kN) % kPeriod); });
     std::size_t i = 0;
     for (; i + kUnroll * kN <= end; i += kUnroll * kN) {
-      std::remove_const_t<decltype(last)> v[kUnroll];
+      hn::Vec<D> v[kUnroll];
       unrolled<kUnroll>([&](auto u) HWY_ATTR {
         v[u] = compute(d, op, k[u % kDistinct], dst + i + u * kN, (src + i + u * kN)...);
       });
-      unrolled<kUnroll>([&](auto u) HWY_ATTR { hn::StoreU(v[u], d, dst + i + u * kN); });
+      unrolled<kUnroll>([&](auto u) HWY_ATTR {
+        if constexpr (kStreams) {
+          hn::Stream(v[u], d, dst + i + u * kN);
+        } else {
+          hn::StoreU(v[u], d, dst + i + u * kN);
+        }
+      });
     }
     unrolled<kUnroll>([&](auto u) HWY_ATTR {
       if (i < end) {
@@ -123,7 +133,7 @@ struct Row {
     hn::StoreU(last, d, dst + end);
   }
 
-  // Fewer samples than a vector twice as long as the longest tried here.
+  // Fewer samples than two vectors of kBytes.
   template <std::size_t kBytes>
   static HWY_INLINE void shorter(const Op& op, std::size_t n, TD* dst, const TS*... src) {
     using D = hn::CappedTag<TD, kBytes / kWidest>;
@@ -137,20 +147,38 @@ struct Row {
     } else if constexpr (kBytes > 4 && kBytes / 2 >= kWidest) {
       shorter<kBytes / 2>(op, n, dst, src...);
     } else {
-      samples(op, n, dst, src...);
+      samples(op, 0, n, dst, src...);
     }
   }
 
-  static HWY_INLINE void run(const Op& op, std::size_t n, TD* dst, const TS*... src) {
+  // Stores that straddle cache lines cost a third of the speed in the second-level cache, and those
+  // around the caches need alignment: a long row's first samples are set apart up to the next line.
+  static HWY_INLINE void run(const Op& op, bool streams, std::size_t n, TD* dst, const TS*... src) {
     if constexpr (kScalarTarget) {
-      samples(op, n, dst, src...);
+      samples(op, 0, n, dst, src...);
     } else {
-      using D = hn::CappedTag<TD, HWY_MAX_BYTES / kWidest>;
+      constexpr std::size_t kVectorBytes = std::min(HWY_MAX_BYTES, 32);
+      using D = hn::CappedTag<TD, kVectorBytes / kWidest>;
       constexpr std::size_t kN = hn::MaxLanes(D());
-      if (HWY_LIKELY(n >= kN)) {
-        vectors(D(), op, n, dst, src...);
+      constexpr std::size_t kLine = 64;
+      constexpr std::size_t kLong = 1024 / sizeof(TD);
+      const std::size_t misaligned = reinterpret_cast<std::uintptr_t>(dst) % kLine;
+      if (n < 2 * kN) {
+        shorter<kVectorBytes>(op, n, dst, src...);
+      } else if (n < kLong || misaligned % sizeof(TD) != 0) {
+        vectors<false>(D(), op, 0, n, dst, src...);
       } else {
-        shorter<kN * kWidest / 2>(op, n, dst, src...);
+        const std::size_t head = (kLine - misaligned) % kLine / sizeof(TD);
+        if (head >= kN) {
+          vectors<false>(D(), op, 0, head, dst, src...);
+        } else if (head != 0) {
+          shorter<kVectorBytes / 2>(op, head, dst, src...);
+        }
+        if (Keep::kPeriod == 1 && streams) {
+          vectors<true>(D(), op, head % kPeriod, n - head, dst + head, (src + head)...);
+        } else {
+          vectors<false>(D(), op, head % kPeriod, n - head, dst + head, (src + head)...);
+        }
       }
     }
   }
@@ -162,25 +190,28 @@ struct Row {
 template <class TD, class Keep = KeepNone, class Op>
 HWY_INLINE void mapRows(const Band<0>& b, const Op& op) {
   for (std::size_t y = 0; y < b.rows; ++y) {
-    map::Row<Op, Keep, TD>::run(op, b.n - Keep::kTrim, b.template dstRow<TD>(y));
+    map::Row<Op, Keep, TD>::run(op, b.streams, b.n - Keep::kTrim, b.template dstRow<TD>(y));
   }
+  if (b.streams) hwy::FlushStream();
 }
 
 template <class TS, class TD, class Keep = KeepNone, class Op>
 HWY_INLINE void mapRows(const Band<1>& b, const Op& op) {
   for (std::size_t y = 0; y < b.rows; ++y) {
-    map::Row<Op, Keep, TD, TS>::run(op, b.n - Keep::kTrim, b.template dstRow<TD>(y),
+    map::Row<Op, Keep, TD, TS>::run(op, b.streams, b.n - Keep::kTrim, b.template dstRow<TD>(y),
                                     b.template srcRow<TS>(0, y));
   }
+  if (b.streams) hwy::FlushStream();
 }
 
 template <class TS1, class TS2, class TD, class Keep = KeepNone, class Op>
 HWY_INLINE void mapRows(const Band<2>& b, const Op& op) {
   for (std::size_t y = 0; y < b.rows; ++y) {
-    map::Row<Op, Keep, TD, TS1, TS2>::run(op, b.n - Keep::kTrim, b.template dstRow<TD>(y),
+    map::Row<Op, Keep, TD, TS1, TS2>::run(op, b.streams, b.n - Keep::kTrim, b.template dstRow<TD>(y),
                                           b.template srcRow<TS1>(0, y),
                                           b.template srcRow<TS2>(1, y));
   }
+  if (b.streams) hwy::FlushStream();
 }
 
 }  // namespace keli::HWY_NAMESPACE

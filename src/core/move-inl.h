@@ -98,7 +98,7 @@ struct Move {
       const std::uint8_t* src = b.srcRow<std::uint8_t>(0, y);
       std::uint8_t* dst = b.dstRow<std::uint8_t>(y);
       steps(d, src, dst, whole, indices);
-      pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, b.n - whole, choice);
+      if constexpr (!Map::kWhole) pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, 1, choice);
     }
     return true;
   }

@@ -13,6 +13,8 @@
 #define KELI_CORE_PIXELS_INL_H_
 #endif
 
+#include <algorithm>
+
 #include "core/planes.h"
 #include "core/simd-inl.h"
 
@@ -99,7 +101,7 @@ struct Pixels {
     if constexpr (kScalarTarget) {
       samples(op, src, dst, 0, n);
     } else {
-      vectors<HWY_MAX_BYTES>(op, src, dst, n);
+      vectors<std::min(HWY_MAX_BYTES, 32)>(op, src, dst, n);
     }
   }
 };

@@ -72,6 +72,34 @@ HWY_INLINE auto cycleMask(D d, std::size_t phase) {
       hn::BitCast(d, hn::LoadU(du, CyclePattern<T, kPeriod, kUsed>::kBits.data() + phase)));
 }
 
+// Indices that repeat the first kPixel of 16 bytes, long enough to load a vector from any byte of them.
+template <std::size_t kPixel>
+struct RepeatIndices {
+  static constexpr std::size_t kSize = HWY_MAX_BYTES + 16;
+
+  static constexpr std::array<std::uint8_t, kSize> make() {
+    std::array<std::uint8_t, kSize> a{};
+    for (std::size_t i = 0; i < kSize; ++i) a[i] = static_cast<std::uint8_t>(i % kPixel);
+    return a;
+  }
+
+  static constexpr std::array<std::uint8_t, kSize> kBytes = make();
+};
+
+// The bytes of a pixel of kPixel bytes, over and over, from byte `phase` of it on. pixel: 16 bytes.
+template <std::size_t kPixel, class D>
+HWY_INLINE hn::Vec<D> repeatPixel(D d, const std::uint8_t* pixel, std::size_t phase) {
+  const std::uint8_t* const indices = RepeatIndices<kPixel>::kBytes.data() + phase;
+  if constexpr (hn::MaxLanes(D()) * sizeof(hn::TFromD<D>) >= 16) {
+    const hn::Repartition<std::uint8_t, D> d8;
+    return hn::BitCast(d, hn::TableLookupBytes(hn::LoadDup128(d8, pixel), hn::LoadU(d8, indices)));
+  } else {  // a shorter vector's look-up would not see all of the pixel
+    std::uint8_t repeated[16];
+    for (std::size_t i = 0; i < 16; ++i) repeated[i] = pixel[indices[i]];
+    return hn::LoadU(d, reinterpret_cast<const hn::TFromD<D>*>(repeated));
+  }
+}
+
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

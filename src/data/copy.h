@@ -13,11 +13,11 @@ KelStatus copy(const T* src, int srcStep, T* dst, int dstStep, KeliSize size) {
   const std::size_t samples = kSamples * static_cast<std::size_t>(size.width);
   if constexpr (kLayout == Layout::AC4) {
     Band<1> b = makeBand(src, srcStep, dst, dstStep, samples, size.height);
-    joinRows(b, {sizeof(T), sizeof(T)});
+    layOut(b, {sizeof(T), sizeof(T)});
     copyRows().ac4.template get<T>()(b);
   } else {
     Band<1> b = makeBand(src, srcStep, dst, dstStep, samples * sizeof(T), size.height);
-    joinRows(b, {1, 1});
+    layOut(b, {1, 1});
     copyRows().bytes(b);
   }
   return kelStatusOk;
@@ -29,7 +29,7 @@ KelStatus copyMasked(const T* src, int srcStep, T* dst, int dstStep, KeliSize si
   constexpr std::size_t kPixel = pixelSamples(kLayout) * sizeof(T);
   Band<2> b = makeBand(src, srcStep, mask, maskStep, dst, dstStep,
                        static_cast<std::size_t>(size.width), size.height);
-  joinRows(b, {kPixel, 1, kPixel});
+  layOut(b, {kPixel, 1, kPixel});
   const MaskedRows& rows = maskedRows();
   (kLayout == Layout::AC4 ? rows.copyAC4.template get<T>() : rows.copy[kPixel])(b);
   return kelStatusOk;
@@ -40,7 +40,7 @@ template <class T>
 KelStatus copyPixels(CopyBand kernel, const T* src, int srcStep, std::size_t srcSamples, T* dst,
                      int dstStep, std::size_t dstSamples, KeliSize size) {
   Band<1> b = makeBand(src, srcStep, dst, dstStep, static_cast<std::size_t>(size.width), size.height);
-  joinRows(b, {srcSamples * sizeof(T), dstSamples * sizeof(T)});
+  layOut(b, {srcSamples * sizeof(T), dstSamples * sizeof(T)});
   kernel(b);
   return kelStatusOk;
 }
@@ -63,7 +63,7 @@ template <class T, Layout kLayout>
 KelStatus copyChannel(const T* src, int srcStep, T* dst, int dstStep, KeliSize size) {
   const std::size_t samples = pixelSamples(kLayout) * static_cast<std::size_t>(size.width);
   Band<1> b = makeBand(src, srcStep, dst, dstStep, samples, size.height);
-  joinRows(b, {sizeof(T), sizeof(T)});
+  layOut(b, {sizeof(T), sizeof(T)});
   (kLayout == Layout::C3 ? copyRows().c3c : copyRows().c4c).template get<T>()(b);
   return kelStatusOk;
 }

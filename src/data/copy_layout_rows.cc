@@ -1,6 +1,7 @@
 // Row kernels of Copy between layouts: channels move, their samples do not change.
 #include "data/copy_rows.h"
 
+#define KELI_ENABLE_AVX512
 #include "core/simd_config.h"
 #include "core/target.h"
 

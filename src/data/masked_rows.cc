@@ -1,6 +1,7 @@
 // Row kernels of masked Copy and Set: dst = src, or a value, where the mask byte is not 0.
 #include "data/masked_rows.h"
 
+#define KELI_ENABLE_AVX512
 #include "core/simd_config.h"
 #include "core/target.h"
 
@@ -14,6 +15,7 @@ HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
 struct CopySource {
+  static constexpr std::size_t kAreasFrom = 4;
   const std::uint8_t* src;
   template <class D>
   HWY_INLINE hn::Vec<D> vector(D d, std::size_t, std::size_t offset) const {
@@ -30,21 +32,22 @@ void ownCopyMasked(const Band<2>& b) {
   }
 }
 
-// The value of one pixel, repeated.
+// One pixel, over and over.
+template <std::size_t kPixel>
 struct SetSource {
-  const std::uint8_t* pixels;
-  std::size_t pixelBytes;
+  static constexpr std::size_t kAreasFrom = 6;
+  const std::uint8_t* pixel;
   template <class D>
   HWY_INLINE hn::Vec<D> vector(D d, std::size_t v, std::size_t) const {
-    return hn::LoadU(d, pixels + v * hn::MaxLanes(D()) % pixelBytes);
+    return repeatPixel<kPixel>(d, pixel, v * hn::MaxLanes(D()) % kPixel);
   }
-  HWY_INLINE std::uint8_t byte(std::size_t j, std::size_t) const { return pixels[j]; }
+  HWY_INLINE std::uint8_t byte(std::size_t j, std::size_t) const { return pixel[j]; }
 };
 
 template <std::size_t kPixel, std::size_t kUsed = kPixel>
-void ownSetMasked(const Band<1>& b, const std::uint8_t* pixels) {
+void ownSetMasked(const Band<1>& b, const std::uint8_t* pixel) {
   for (std::size_t y = 0; y < b.rows; ++y) {
-    Masked<kPixel, kUsed>::row(b.srcRow<std::uint8_t>(0, y), SetSource{pixels, kPixel},
+    Masked<kPixel, kUsed>::row(b.srcRow<std::uint8_t>(0, y), SetSource<kPixel>{pixel},
                                b.dstRow<std::uint8_t>(y), b.n);
   }
 }

@@ -1,6 +1,7 @@
 // Row kernels of Set: dst = value, whole pixels or some of their channels.
 #include "data/set_rows.h"
 
+#define KELI_ENABLE_AVX512
 #include "core/simd_config.h"
 #include "core/target.h"
 
@@ -18,21 +19,23 @@ template <class T, std::size_t kChannels>
 struct Fill {
   static constexpr std::size_t kPeriod = kChannels;
   static constexpr std::size_t kUnroll = kChannels == 3 ? 6 : 4;
-  const T* pattern;
+  const std::uint8_t* pixel;
   template <class D>
   HWY_INLINE hn::Vec<D> at(D d, std::size_t phase) const {
-    return hn::LoadU(d, pattern + phase);
+    return repeatPixel<kChannels * sizeof(T)>(d, pixel, phase * sizeof(T));
   }
   template <class D, class V>
   HWY_INLINE V vector(D, V at) const {
     return at;
   }
-  HWY_INLINE T scalar(std::size_t phase) const { return pattern[phase]; }
+  HWY_INLINE T scalar(std::size_t phase) const {
+    return load(reinterpret_cast<const T*>(pixel + phase * sizeof(T)));
+  }
 };
 
 template <class T, std::size_t kChannels, class Keep>
-void ownSet(const Band<0>& b, const void* pattern) {
-  mapRows<T, Keep>(b, Fill<T, kChannels>{static_cast<const T*>(pattern)});
+void ownSet(const Band<0>& b, const std::uint8_t* pixel) {
+  mapRows<T, Keep>(b, Fill<T, kChannels>{pixel});
 }
 
 const data::SetRows kSetRows = {

@@ -6,11 +6,8 @@
 
 namespace keli::data {
 
-// pattern: the samples of a pixel, repeated to at least kSetPatternBytes. n counts samples.
-using SetBand = void (*)(const Band<0>&, const void* pattern);
-
-// A vector from any sample of a pixel of up to 16 bytes.
-constexpr std::size_t kSetPatternBytes = 64 + 16;
+// pixel: 16 bytes that begin with the samples of a pixel. n counts samples.
+using SetBand = void (*)(const Band<0>&, const std::uint8_t* pixel);
 
 struct SetRows {
   BySize<SetBand> c1;

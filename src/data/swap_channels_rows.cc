@@ -1,6 +1,7 @@
 // Row kernels of SwapChannels: destination channel k = source channel order[k], k = 0, 1, 2.
 #include "data/swap_channels_rows.h"
 
+#define KELI_ENABLE_AVX512
 #include "core/simd_config.h"
 #include "core/target.h"
 

@@ -1,0 +1,21 @@
+// From which size on a region is stored around the caches.
+#pragma once
+
+#include <atomic>
+#include <cstddef>
+
+namespace keli {
+
+// Bytes moved above which stores stream; 0 until the processor has been asked. Tests set it.
+extern std::atomic<std::size_t> gStreamAbove;
+
+// The size of the second-level cache: asks, stores and returns it.
+std::size_t findStreamAbove();
+
+inline bool exceedsCache(std::size_t rowBytes, std::size_t rows) {
+  std::size_t above = gStreamAbove.load(std::memory_order_relaxed);
+  if (__builtin_expect(above == 0, 0)) above = findStreamAbove();
+  return rowBytes > above / rows;
+}
+
+}  // namespace keli
