@@ -11,6 +11,8 @@
 #define KELI_CORE_MOVE_INL_H_
 #endif
 
+#include <hwy/cache_control.h>
+
 #include "core/shuffle-inl.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -67,13 +69,20 @@ struct Move {
       });
     }
 
+    template <bool kStreams>
     HWY_INLINE void store(std::uint8_t* dst) const {
-      unrolled<Plan::kVectors>([&](auto i) HWY_ATTR { hn::StoreU(v[i], D(), dst + i * kN); });
+      unrolled<Plan::kVectors>([&](auto i) HWY_ATTR {
+        if constexpr (kStreams) {
+          hn::Stream(v[i], D(), dst + i * kN);
+        } else {
+          hn::StoreU(v[i], D(), dst + i * kN);
+        }
+      });
     }
   };
 
   // A row of n whole pixels, at least a step: the last step is loaded first and stored last.
-  template <class D>
+  template <bool kStreams, class D>
   static HWY_INLINE void steps(D, const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
                                const ShuffleIndices<Map, D>& indices) {
     constexpr std::size_t kPixels = Step<D>::Plan::kPixels;
@@ -83,24 +92,100 @@ struct Move {
     for (std::size_t x = 0; x < end; x += kPixels) {
       Step<D> step;
       step.load(src + x * Map::kSrc, dst + x * Map::kDst, indices);
-      step.store(dst + x * Map::kDst);
+      step.template store<kStreams>(dst + x * Map::kDst);
     }
-    last.store(dst + end * Map::kDst);
+    last.template store<false>(dst + end * Map::kDst);
   }
 
-  // The band with vectors of D; false, and nothing done, if its rows are too short for them.
-  template <class D, class Choice>
-  static HWY_INLINE bool rows(D d, const Band<1>& b, const Choice& choice) {
-    const std::size_t whole = Map::kWhole ? b.n : b.n - 1;
-    if (whole < Step<D>::Plan::kPixels) return false;
-    const ShuffleIndices<Map, D> indices = choice.indices(d);
+  using D16 = hn::CappedTag<std::uint8_t, 16>;
+  using D32 = hn::CappedTag<std::uint8_t, 32>;
+  using BlockTag = std::conditional_t<kPermutesBytes, D32, D16>;
+  using Block = BlockPlan<Map, hn::MaxLanes(BlockTag())>;
+
+  // Blocks beat steps that put vectors together from several windows, if they waste little of a store.
+  static constexpr bool prefersBlocks() {
+    return !keepsSome() && 4 * Block::kBytes >= 3 * hn::MaxLanes(BlockTag());
+  }
+
+  // A row of n whole pixels in blocks, not in place: at least a step of 16-byte vectors, which ends it.
+  static HWY_INLINE void blocks(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
+                                hn::Vec<BlockTag> block, const ShuffleIndices<Map, D16>& indices) {
+    constexpr std::size_t kEnd = Step<D16>::Plan::kPixels;
+    static_assert(kEnd * std::min(Map::kSrc, Map::kDst) >= hn::MaxLanes(BlockTag()),
+                  "a block that starts before the last step must lie within the row");
+    const BlockTag d;
+    const std::size_t end = n - kEnd;
+    const auto move = [&](std::size_t x) HWY_ATTR {
+      hn::StoreU(shuffleAll(d, hn::LoadU(d, src + x * Map::kSrc), block), d, dst + x * Map::kDst);
+    };
+    std::size_t x = 0;
+    for (; x + 3 * Block::kPixels < end; x += 4 * Block::kPixels) {
+      unrolled<4>([&](auto u) HWY_ATTR { move(x + u * Block::kPixels); });
+    }
+    for (; x < end; x += Block::kPixels) move(x);
+    Step<D16> last;
+    last.load(src + end * Map::kSrc, dst + end * Map::kDst, indices);
+    last.template store<false>(dst + end * Map::kDst);
+  }
+
+  // A row of any length.
+  template <class Choice>
+  static HWY_INLINE void row(const std::uint8_t* src, std::uint8_t* dst, std::size_t n, const Choice& choice,
+                             const ShuffleIndices<Map, D16>& indices) {
+    const std::size_t whole = Map::kWhole ? n : n - 1;
+    if (whole < Step<D16>::Plan::kPixels) return pixels(src, dst, n, choice);
+    steps<false>(D16(), src, dst, whole, indices);
+    pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, n - whole, choice);
+  }
+
+  // Pixels before the first that starts a cache line of the destination, or n if none does.
+  static HWY_INLINE std::size_t pixelsToLine(const std::uint8_t* dst, std::size_t n) {
+    constexpr std::size_t kLine = 64;
+    for (std::size_t x = 0; x < kLine; ++x) {
+      if (reinterpret_cast<std::uintptr_t>(dst + x * Map::kDst) % kLine == 0) return x;
+    }
+    return n;
+  }
+
+  // A long row, stored around the caches but for what comes before its first line.
+  template <class Choice>
+  static HWY_INLINE void streamed(const std::uint8_t* src, std::uint8_t* dst, std::size_t n, const Choice& choice,
+                                  const ShuffleIndices<Map, D16>& indices,
+                                  const ShuffleIndices<Map, D32>& wide) {
+    const std::size_t head = pixelsToLine(dst, n);
+    if (head != 0) row(src, dst, head, choice, indices);
+    if (head == n) return;
+    src += head * Map::kSrc;
+    dst += head * Map::kDst;
+    const std::size_t whole = n - head - (Map::kWhole ? 0 : 1);
+    steps<true>(D32(), src, dst, whole, wide);
+    pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, n - head - whole, choice);
+  }
+
+  template <class Choice>
+  static HWY_INLINE void band(const Band<1>& b, const Choice& choice) {
+    constexpr std::size_t kLong = 256;
+    const ShuffleIndices<Map, D16> indices = choice.indices(D16());
+    const ShuffleIndices<Map, D32> wide = choice.indices(D32());
+    const hn::Vec<BlockTag> block = choice.block(BlockTag());
+    const bool inBlocks = prefersBlocks() && b.src[0] != b.dst;
     for (std::size_t y = 0; y < b.rows; ++y) {
       const std::uint8_t* src = b.srcRow<std::uint8_t>(0, y);
       std::uint8_t* dst = b.dstRow<std::uint8_t>(y);
-      steps(d, src, dst, whole, indices);
-      if constexpr (!Map::kWhole) pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, 1, choice);
+      const std::size_t whole = Map::kWhole ? b.n : b.n - 1;
+      if (!keepsSome() && b.streams && b.n >= kLong) {
+        streamed(src, dst, b.n, choice, indices, wide);
+      } else if (inBlocks && whole >= Step<D16>::Plan::kPixels) {
+        blocks(src, dst, whole, block, indices);
+        if constexpr (!Map::kWhole) pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, 1, choice);
+      } else if (!inBlocks && whole >= Step<D32>::Plan::kPixels) {
+        steps<false>(D32(), src, dst, whole, wide);
+        if constexpr (!Map::kWhole) pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, 1, choice);
+      } else {
+        row(src, dst, b.n, choice, indices);
+      }
     }
-    return true;
+    if (b.streams) hwy::FlushStream();
   }
 };
 
@@ -112,18 +197,22 @@ struct FixedChoice {
   HWY_INLINE ShuffleIndices<Map, D> indices(D) const {
     return ShuffleIndices<Map, D>::fixed();
   }
+  template <class D>
+  HWY_INLINE hn::Vec<D> block(D d) const {
+    return hn::LoadU(d, BlockPlan<Map, hn::MaxLanes(D())>::kIndices.data());
+  }
 };
 
 // b.n counts pixels. choice.from(j) is the source byte of destination byte j of a pixel, and
-// choice.indices(d) what shuffles it there.
+// choice.indices(d) and choice.block(d) what shuffles it there.
 template <class Map, class Choice = FixedChoice<Map>>
 HWY_INLINE void moveRows(const Band<1>& b, const Choice& choice = Choice()) {
-  if constexpr (!kScalarTarget) {
-    if (Move<Map>::rows(hn::CappedTag<std::uint8_t, 32>(), b, choice)) return;
-    if (Move<Map>::rows(hn::CappedTag<std::uint8_t, 16>(), b, choice)) return;
-  }
-  for (std::size_t y = 0; y < b.rows; ++y) {
-    Move<Map>::pixels(b.srcRow<std::uint8_t>(0, y), b.dstRow<std::uint8_t>(y), b.n, choice);
+  if constexpr (kScalarTarget) {
+    for (std::size_t y = 0; y < b.rows; ++y) {
+      Move<Map>::pixels(b.srcRow<std::uint8_t>(0, y), b.dstRow<std::uint8_t>(y), b.n, choice);
+    }
+  } else {
+    Move<Map>::band(b, choice);
   }
 }
 

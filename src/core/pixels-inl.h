@@ -15,8 +15,10 @@
 
 #include <algorithm>
 
+#include <hwy/cache_control.h>
+
+#include "core/interleave-inl.h"
 #include "core/planes.h"
-#include "core/simd-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
@@ -29,6 +31,11 @@ struct Pixels {
   using Source = const TS* const (&)[4];
   using Destination = TD* const (&)[4];
 
+  static constexpr std::size_t kPlanesIn = isPlanar(kFrom) ? kIn : 1;
+  static constexpr std::size_t kPlanesOut = isPlanar(kTo) ? kOut : 1;
+  // AC4's fourth samples are read with the others and written back.
+  static constexpr bool kReadsBack = kTo == Layout::AC4;
+
   // Vectors of the pixels from x on.
   template <class D>
   static HWY_INLINE std::array<hn::Vec<D>, kIn> loadPixels(D d, Source src, std::size_t x) {
@@ -36,7 +43,9 @@ struct Pixels {
     if constexpr (isPlanar(kFrom) || kFrom == Layout::C1) {
       unrolled<kIn>([&](auto k) HWY_ATTR { v[k] = hn::LoadU(d, src[k] + x); });
     } else if constexpr (pixelSamples(kFrom) == 3) {
-      hn::LoadInterleaved3(d, src[0] + 3 * x, v[0], v[1], v[2]);
+      hn::Vec<D> three[3];
+      deinterleave3(d, src[0] + 3 * x, three);
+      unrolled<3>([&](auto k) HWY_ATTR { v[k] = three[k]; });
     } else if constexpr (kIn == 4) {
       hn::LoadInterleaved4(d, src[0] + 4 * x, v[0], v[1], v[2], v[3]);
     } else {
@@ -46,19 +55,34 @@ struct Pixels {
     return v;
   }
 
-  template <class D>
+  template <bool kStreams, class D>
+  static HWY_INLINE void put(D d, hn::Vec<D> v, TD* dst) {
+    if constexpr (kStreams) {
+      hn::Stream(v, d, dst);
+    } else {
+      hn::StoreU(v, d, dst);
+    }
+  }
+
+  template <bool kStreams, class D>
   static HWY_INLINE void storePixels(D d, const std::array<hn::Vec<D>, kOut>& v, Destination dst,
                                      std::size_t x) {
+    constexpr std::size_t kN = hn::MaxLanes(D());
     if constexpr (isPlanar(kTo) || kTo == Layout::C1) {
-      unrolled<kOut>([&](auto k) HWY_ATTR { hn::StoreU(v[k], d, dst[k] + x); });
+      unrolled<kOut>([&](auto k) HWY_ATTR { put<kStreams>(d, v[k], dst[k] + x); });
     } else if constexpr (pixelSamples(kTo) == 3) {
-      hn::StoreInterleaved3(v[0], v[1], v[2], d, dst[0] + 3 * x);
-    } else if constexpr (kOut == 4) {
-      hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, dst[0] + 4 * x);
+      hn::Vec<D> out[3];
+      interleave3(d, {v[0], v[1], v[2]}, out);
+      unrolled<3>([&](auto j) HWY_ATTR { put<kStreams>(d, out[j], dst[0] + 3 * x + j * kN); });
     } else {
-      hn::Vec<D> other, alpha;
-      hn::LoadInterleaved4(d, dst[0] + 4 * x, other, other, other, alpha);
-      hn::StoreInterleaved4(v[0], v[1], v[2], alpha, d, dst[0] + 4 * x);
+      hn::Vec<D> in[4], out[4];
+      unrolled<kOut>([&](auto k) HWY_ATTR { in[k] = v[k]; });
+      if constexpr (kReadsBack) {
+        hn::Vec<D> other;
+        hn::LoadInterleaved4(d, dst[0] + 4 * x, other, other, other, in[3]);
+      }
+      interleave4(d, in, out);
+      unrolled<4>([&](auto j) HWY_ATTR { put<kStreams>(d, out[j], dst[0] + 4 * x + j * kN); });
     }
   }
 
@@ -78,7 +102,7 @@ struct Pixels {
   }
 
   // Rows of at least a vector of pixels: the last is computed first and stored last.
-  template <std::size_t kBytes, class Op>
+  template <bool kStreams, std::size_t kBytes, class Op>
   static HWY_INLINE void vectors(const Op& op, Source src, Destination dst, std::size_t n) {
     using D = hn::CappedTag<TD, kBytes / kWidest>;
     const D d;
@@ -87,34 +111,65 @@ struct Pixels {
     if (n >= kN) {
       const std::size_t end = n - kN;
       const auto last = op.vector(d, loadPixels(ds, src, end));
-      for (std::size_t x = 0; x < end; x += kN) storePixels(d, op.vector(d, loadPixels(ds, src, x)), dst, x);
-      storePixels(d, last, dst, end);
+      for (std::size_t x = 0; x < end; x += kN) {
+        storePixels<kStreams>(d, op.vector(d, loadPixels(ds, src, x)), dst, x);
+      }
+      storePixels<false>(d, last, dst, end);
     } else if constexpr (kBytes > 8 && kBytes / 2 > kWidest) {
-      vectors<kBytes / 2>(op, src, dst, n);
+      vectors<false, kBytes / 2>(op, src, dst, n);
     } else {
       samples(op, src, dst, 0, n);
     }
   }
 
+  // Pixels before the first at which every plane of the destination starts a cache line, or n.
+  static HWY_INLINE std::size_t pixelsToLine(Destination dst, std::size_t n) {
+    constexpr std::size_t kLine = 64;
+    for (std::size_t x = 0; x < kLine; ++x) {
+      bool aligned = true;
+      for (std::size_t k = 0; k < kPlanesOut; ++k) {
+        aligned = aligned && reinterpret_cast<std::uintptr_t>(dst[k] + pixelSamples(kTo) * x) % kLine == 0;
+      }
+      if (aligned) return x;
+    }
+    return n;
+  }
+
+  // As in map-inl.h, long rows are set on cache lines, and then stored around the caches if asked for.
   template <class Op>
-  static HWY_INLINE void row(const Op& op, Source src, Destination dst, std::size_t n) {
+  static HWY_INLINE void row(const Op& op, bool streams, Source src, Destination dst, std::size_t n) {
+    constexpr std::size_t kVectorBytes = std::min(HWY_MAX_BYTES, 32);
+    constexpr std::size_t kLong = 4096 / sizeof(TD);
     if constexpr (kScalarTarget) {
       samples(op, src, dst, 0, n);
     } else {
-      vectors<std::min(HWY_MAX_BYTES, 32)>(op, src, dst, n);
+      const std::size_t head = n < kLong ? n : pixelsToLine(dst, n);
+      if (head != 0) vectors<false, kVectorBytes>(op, src, dst, head);
+      if (head == n) return;
+      const TS* restSrc[4] = {};
+      TD* restDst[4] = {};
+      for (std::size_t k = 0; k < kPlanesIn; ++k) restSrc[k] = src[k] + pixelSamples(kFrom) * head;
+      for (std::size_t k = 0; k < kPlanesOut; ++k) restDst[k] = dst[k] + pixelSamples(kTo) * head;
+      if (streams && !kReadsBack) {
+        vectors<true, kVectorBytes>(op, restSrc, restDst, n - head);
+      } else {
+        vectors<false, kVectorBytes>(op, restSrc, restDst, n - head);
+      }
     }
   }
 };
 
 template <Layout kFrom, Layout kTo, class TS, class TD, class Op>
 HWY_INLINE void mapPixels(const PlanesBand& b, const Op& op) {
+  using P = Pixels<kFrom, kTo, TS, TD>;
   for (std::size_t y = 0; y < b.rows; ++y) {
     const TS* src[4] = {};
     TD* dst[4] = {};
-    for (int k = 0; k < (isPlanar(kFrom) ? usedChannels(kFrom) : 1); ++k) src[k] = b.srcRow<TS>(k, y);
-    for (int k = 0; k < (isPlanar(kTo) ? usedChannels(kTo) : 1); ++k) dst[k] = b.dstRow<TD>(k, y);
-    Pixels<kFrom, kTo, TS, TD>::row(op, src, dst, b.n);
+    for (std::size_t k = 0; k < P::kPlanesIn; ++k) src[k] = b.srcRow<TS>(static_cast<int>(k), y);
+    for (std::size_t k = 0; k < P::kPlanesOut; ++k) dst[k] = b.dstRow<TD>(static_cast<int>(k), y);
+    P::row(op, b.streams, src, dst, b.n);
   }
+  if (b.streams) hwy::FlushStream();
 }
 
 }  // namespace keli::HWY_NAMESPACE

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "core/cache.h"
 #include "core/types.h"
 
 namespace keli {
@@ -16,6 +17,7 @@ struct PlanesBand {
   std::ptrdiff_t dstStep;
   std::size_t n;  // pixels of a row
   std::size_t rows;
+  bool streams;   // as in Band
 
   template <class T>
   const T* srcRow(int plane, std::size_t y) const {
@@ -47,6 +49,9 @@ inline PlanesBand makePlanesBand(Source src, int srcStep, Destination dst, int d
   b.dstStep = dstStep;
   b.n = static_cast<std::size_t>(size.width);
   b.rows = static_cast<std::size_t>(size.height);
+  const std::size_t srcRow = b.n * sizeof(TS) * storedChannels(kFrom);
+  const std::size_t dstRow = b.n * sizeof(TD) * storedChannels(kTo);
+  b.streams = b.src[0] != b.dst[0] && exceedsCache(srcRow + dstRow, b.rows);
   // Images without padding are one long row.
   if (b.n * sizeof(TS) * pixelSamples(kFrom) == static_cast<std::size_t>(srcStep) &&
       b.n * sizeof(TD) * pixelSamples(kTo) == static_cast<std::size_t>(dstStep)) {

@@ -139,6 +139,33 @@ HWY_INLINE hn::Vec<D> shuffled(D d, const std::uint8_t* src, const ShuffleIndice
   return out;
 }
 
+// Whole pixels within one vector: one load, one shuffle, one store, whose spare bytes are written again
+// with the next pixels. Not for use in place, where each load would wait for the store before it.
+template <class Map, std::size_t kN>
+struct BlockPlan {
+  static constexpr std::size_t kPixels = kN / std::max(Map::kSrc, Map::kDst);
+  static constexpr std::size_t kBytes = kPixels * Map::kDst;
+
+  static constexpr std::array<std::uint8_t, kN> makeIndices() {
+    std::array<std::uint8_t, kN> a{};
+    for (std::size_t j = 0; j < kBytes; ++j) {
+      a[j] = static_cast<std::uint8_t>(j / Map::kDst * Map::kSrc + Map::from(j % Map::kDst));
+    }
+    return a;
+  }
+  static constexpr std::array<std::uint8_t, kN> kIndices = makeIndices();
+};
+
+// Shuffles the bytes of a whole vector: of 16, or of 32 where the target can.
+template <class D>
+HWY_INLINE hn::Vec<D> shuffleAll(D d, hn::Vec<D> bytes, hn::Vec<D> indices) {
+  if constexpr (kPermutesBytes && hn::MaxLanes(D()) == 32) {
+    return permuteBytes(d, bytes, indices);
+  } else {
+    return hn::TableLookupBytes(bytes, indices);
+  }
+}
+
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

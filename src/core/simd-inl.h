@@ -24,6 +24,19 @@ constexpr bool kScalarTarget = true;
 constexpr bool kScalarTarget = false;
 #endif
 
+// Shuffles of bytes across a vector of 32 bytes.
+#if HWY_TARGET == HWY_AVX3_DL
+constexpr bool kPermutesBytes = true;
+template <class D>
+HWY_INLINE hn::Vec<D> permuteBytes(D, hn::Vec<D> bytes, hn::Vec<D> indices) {
+  return hn::Vec<D>{_mm256_permutexvar_epi8(indices.raw, bytes.raw)};
+}
+#else
+constexpr bool kPermutesBytes = false;
+template <class D>
+hn::Vec<D> permuteBytes(D, hn::Vec<D> bytes, hn::Vec<D> indices);
+#endif
+
 // Samples stand at any address.
 template <class T>
 HWY_INLINE T load(const T* p) {

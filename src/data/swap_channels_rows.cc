@@ -60,7 +60,27 @@ struct SwapChoice {
     return out;
   }
 
+  template <class D>
+  HWY_INLINE hn::Vec<D> block(D d) const {
+    constexpr std::size_t kN = hn::MaxLanes(D());
+    const auto add = hn::TableLookupBytes(hn::LoadDup128(d, distance), hn::LoadU(d, kBlockPlaces<kN>.data()));
+    return hn::Add(hn::LoadU(d, BlockPlan<Map, kN>::kIndices.data()), add);
+  }
+
  private:
+  // Of the bytes of a block: the place in their pixel.
+  template <std::size_t kN>
+  static constexpr std::array<std::uint8_t, kN> makeBlockPlaces() {
+    std::array<std::uint8_t, kN> a{};
+    for (std::size_t j = 0; j < kN; ++j) {
+      a[j] = static_cast<std::uint8_t>(j % Map::kDst);
+    }
+    return a;
+  }
+
+  template <std::size_t kN>
+  static constexpr std::array<std::uint8_t, kN> kBlockPlaces = makeBlockPlaces<kN>();
+
   // Of the bytes of one vector: the place in their pixel, and in each window with channel 0 chosen.
   template <class Plan, std::size_t kN>
   struct Places {

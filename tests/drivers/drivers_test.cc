@@ -235,7 +235,7 @@ TEST(Drivers, PixelsOfThreeAndFourChannels) {
   forEachTargetLengthPlace([&](std::size_t n, std::size_t place) {
     Rows src(3 * n * 4, place, 1), dst(n * 4, place, 2);
     src.fillSmall<Kel32f>(runSeed());
-    driverRows().grayC3C1_32f({{src.data()}, {dst.data()}, src.step(), dst.step(), n, 2});
+    driverRows().grayC3C1_32f({{src.data()}, {dst.data()}, src.step(), dst.step(), n, 2, false});
     for (std::size_t x = 0; x < n; ++x) {
       ASSERT_EQ(dst.get<Kel32f>(1, x), src.get<Kel32f>(1, 3 * x) + src.get<Kel32f>(1, 3 * x + 1) + src.get<Kel32f>(1, 3 * x + 2));
     }

@@ -1,0 +1,177 @@
+// Vectors of channels to and from interleaved pixels, in registers, so that the caller chooses the
+// stores.
+//
+// Three channels: position p of interleaved vector j holds a sample of channel (j * lanes + p) mod 3,
+// and as lanes is no multiple of 3, the samples of one channel stand at different positions in each of
+// the three vectors. So two selections gather a channel's samples into one vector, and one shuffle
+// puts them in order; the way back is the same in reverse. Where shuffles across a vector are missing,
+// blocks of 16 bytes are shuffled and put in place.
+#if defined(KELI_CORE_INTERLEAVE_INL_H_) == defined(HWY_TARGET_TOGGLE)
+#ifdef KELI_CORE_INTERLEAVE_INL_H_
+#undef KELI_CORE_INTERLEAVE_INL_H_
+#else
+#define KELI_CORE_INTERLEAVE_INL_H_
+#endif
+
+#include <algorithm>
+
+#include "core/simd-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace keli::HWY_NAMESPACE {
+
+// Where vectors of kBytes bytes have the samples (of kSample bytes) of three channels.
+template <std::size_t kBytes, std::size_t kSample>
+struct Interleave3 {
+  static constexpr std::size_t kLanes = kBytes / kSample;
+  using Table = std::array<std::array<std::uint8_t, kBytes>, 3>;
+
+  // The vector of three that holds channel k at position p.
+  static constexpr std::size_t vectorOf(std::size_t k, std::size_t p) {
+    std::size_t j = 0;
+    while ((j * kLanes + p) % 3 != k) ++j;
+    return j;
+  }
+
+  // ordered[k]: the position, byte by byte, that pixel x's sample of channel k has when gathered.
+  // spread[k]: its inverse.
+  static constexpr Table makeOrdered(bool inverse) {
+    Table t{};
+    for (std::size_t k = 0; k < 3; ++k) {
+      for (std::size_t x = 0; x < kLanes; ++x) {
+        const std::size_t p = (3 * x + k) % kLanes;
+        for (std::size_t byte = 0; byte < kSample; ++byte) {
+          const std::size_t here = x * kSample + byte, there = p * kSample + byte;
+          t[k][inverse ? there : here] = static_cast<std::uint8_t>(inverse ? here : there);
+        }
+      }
+    }
+    return t;
+  }
+  static constexpr Table kOrdered = makeOrdered(false);
+  static constexpr Table kSpread = makeOrdered(true);
+
+  // All bits where vector j holds channel k.
+  static constexpr std::array<Table, 3> makeHolds() {
+    std::array<Table, 3> t{};
+    for (std::size_t j = 0; j < 3; ++j) {
+      for (std::size_t i = 0; i < kBytes; ++i) {
+        for (std::size_t k = 0; k < 3; ++k) t[j][k][i] = vectorOf(k, i / kSample) == j ? 0xFF : 0;
+      }
+    }
+    return t;
+  }
+  static constexpr std::array<Table, 3> kHolds = makeHolds();
+
+  // What shuffles channel k into block j, 0x80 for the other channels' places; for two blocks.
+  using BlockTable = std::array<std::array<std::uint8_t, 2 * kBytes>, 3>;
+  static constexpr std::array<BlockTable, 3> makeSpreadInto() {
+    std::array<BlockTable, 3> t{};
+    for (std::size_t j = 0; j < 3; ++j) {
+      for (std::size_t k = 0; k < 3; ++k) {
+        for (std::size_t i = 0; i < 2 * kBytes; ++i) {
+          t[j][k][i] = kHolds[j][k][i % kBytes] != 0 ? kSpread[k][i % kBytes] : 0x80;
+        }
+      }
+    }
+    return t;
+  }
+  static constexpr std::array<BlockTable, 3> kSpreadInto = makeSpreadInto();
+};
+
+#if HWY_TARGET != HWY_SCALAR
+template <class D>
+HWY_INLINE void deinterleave3(D d, const hn::TFromD<D>* src, hn::Vec<D> (&v)[3]) {
+  if constexpr (kPermutesBytes && hn::MaxLanes(D()) * sizeof(hn::TFromD<D>) == 32) {
+    using Plan = Interleave3<32, sizeof(hn::TFromD<D>)>;
+    const hn::Repartition<std::uint8_t, D> d8;
+    const std::uint8_t* const from = reinterpret_cast<const std::uint8_t*>(src);
+    const auto a = hn::LoadU(d8, from), b = hn::LoadU(d8, from + 32), c = hn::LoadU(d8, from + 64);
+    unrolled<3>([&](auto k) HWY_ATTR {
+      const auto inA = hn::LoadU(d8, Plan::kHolds[0][k].data()), inB = hn::LoadU(d8, Plan::kHolds[1][k].data());
+      const auto gathered = hn::IfVecThenElse(inA, a, hn::IfVecThenElse(inB, b, c));
+      v[k] = hn::BitCast(d, permuteBytes(d8, gathered, hn::LoadU(d8, Plan::kOrdered[k].data())));
+    });
+  } else {
+    hn::LoadInterleaved3(d, src, v[0], v[1], v[2]);
+  }
+}
+
+// out: three vectors in the order of memory.
+template <class D>
+HWY_INLINE void interleave3(D d, const hn::Vec<D> (&v)[3], hn::Vec<D> (&out)[3]) {
+  constexpr std::size_t kBytes = hn::MaxLanes(D()) * sizeof(hn::TFromD<D>);
+  const hn::Repartition<std::uint8_t, D> d8;
+  if constexpr (kPermutesBytes && kBytes == 32) {
+    using Plan = Interleave3<32, sizeof(hn::TFromD<D>)>;
+    hn::Vec<decltype(d8)> spread[3];
+    unrolled<3>([&](auto k) HWY_ATTR {
+      spread[k] = permuteBytes(d8, hn::BitCast(d8, v[k]), hn::LoadU(d8, Plan::kSpread[k].data()));
+    });
+    unrolled<3>([&](auto j) HWY_ATTR {
+      const auto is0 = hn::LoadU(d8, Plan::kHolds[j][0].data()), is1 = hn::LoadU(d8, Plan::kHolds[j][1].data());
+      out[j] = hn::BitCast(
+          d, hn::IfVecThenElse(is0, spread[0], hn::IfVecThenElse(is1, spread[1], spread[2])));
+    });
+  } else {
+    // Blocks of 16 bytes, or one that is all of a shorter vector.
+    using Plan = Interleave3<std::min<std::size_t>(kBytes, 16), sizeof(hn::TFromD<D>)>;
+    hn::Vec<D> blocks[3];
+    unrolled<3>([&](auto j) HWY_ATTR {
+      auto all = hn::Zero(d8);
+      unrolled<3>([&](auto k) HWY_ATTR {
+        const auto indices = hn::LoadU(d8, Plan::kSpreadInto[j][k].data());
+        all = hn::Or(all, hn::TableLookupBytesOr0(hn::BitCast(d8, v[k]), indices));
+      });
+      blocks[j] = hn::BitCast(d, all);
+    });
+    if constexpr (kBytes == 32) {
+      out[0] = hn::ConcatLowerLower(d, blocks[1], blocks[0]);
+      out[1] = hn::ConcatUpperLower(d, blocks[0], blocks[2]);
+      out[2] = hn::ConcatUpperUpper(d, blocks[2], blocks[1]);
+    } else {
+      unrolled<3>([&](auto j) HWY_ATTR { out[j] = blocks[j]; });
+    }
+  }
+}
+
+// out: four vectors in the order of memory.
+template <class D>
+HWY_INLINE void interleave4(D d, const hn::Vec<D> (&v)[4], hn::Vec<D> (&out)[4]) {
+  using T = hn::TFromD<D>;
+  constexpr std::size_t kBytes = hn::MaxLanes(D()) * sizeof(T);
+  if constexpr (kBytes < 16) {
+    T pixels[4 * hn::MaxLanes(D())];
+    hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, pixels);
+    unrolled<4>([&](auto j) HWY_ATTR { out[j] = hn::LoadU(d, pixels + j * hn::MaxLanes(D())); });
+  } else {
+    using Pair = hwy::MakeWide<hwy::MakeUnsigned<T>>;
+    const hn::Repartition<Pair, D> dp;
+    // Pairs of channels 0 1 and 2 3, of the lower and the upper half of every block.
+    const auto low01 = hn::BitCast(dp, hn::InterleaveLower(d, v[0], v[1]));
+    const auto low23 = hn::BitCast(dp, hn::InterleaveLower(d, v[2], v[3]));
+    const auto high01 = hn::BitCast(dp, hn::InterleaveUpper(d, v[0], v[1]));
+    const auto high23 = hn::BitCast(dp, hn::InterleaveUpper(d, v[2], v[3]));
+    const auto block0 = hn::BitCast(d, hn::InterleaveLower(dp, low01, low23));
+    const auto block1 = hn::BitCast(d, hn::InterleaveUpper(dp, low01, low23));
+    const auto block2 = hn::BitCast(d, hn::InterleaveLower(dp, high01, high23));
+    const auto block3 = hn::BitCast(d, hn::InterleaveUpper(dp, high01, high23));
+    if constexpr (kBytes == 32) {
+      out[0] = hn::ConcatLowerLower(d, block1, block0);
+      out[1] = hn::ConcatLowerLower(d, block3, block2);
+      out[2] = hn::ConcatUpperUpper(d, block1, block0);
+      out[3] = hn::ConcatUpperUpper(d, block3, block2);
+    } else {
+      out[0] = block0;
+      out[1] = block1;
+      out[2] = block2;
+      out[3] = block3;
+    }
+  }
+}
+#endif  // HWY_TARGET != HWY_SCALAR
+
+}  // namespace keli::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#endif  // per-target include guard
