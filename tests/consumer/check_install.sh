@@ -49,3 +49,11 @@ for language in C CXX; do
   "$work/pc_static"
   echo "ok: $language, pkg-config, static"
 done
+
+# The example that the README shows.
+sed -n '/^```c$/,/^```$/p' "$project/../../../README.md" | grep -v '^```' >"$work/readme.c"
+$CC $CFLAGS -std=c99 $warnings $(pkg-config --cflags keli) "$work/readme.c" -o "$work/readme" \
+    $(pkg-config --libs keli)
+printed=$(LD_LIBRARY_PATH=$libdir "$work/readme")
+grep -qF "It prints \`$printed\`" "$project/../../../README.md"
+echo "ok: README, $printed"
