@@ -16,7 +16,7 @@ struct Band {
   std::ptrdiff_t srcStep[kSources > 0 ? kSources : 1];
   std::uint8_t* dst;
   std::ptrdiff_t dstStep;
-  std::size_t n;     // samples of a row, or pixels: the kernel says which
+  std::size_t n;  // samples of a row, or pixels: the kernel says which
   std::size_t rows;
 
   template <class T>
@@ -44,12 +44,12 @@ inline Band<1> makeBand(const void* src, int srcStep, void* dst, int dstStep, st
 
 inline Band<2> makeBand(const void* src1, int src1Step, const void* src2, int src2Step, void* dst,
                         int dstStep, std::size_t n, int height) {
-  return {{bytes(src1), bytes(src2)}, {src1Step, src2Step}, bytes(dst), dstStep, n,
+  return {{bytes(src1), bytes(src2)},      {src1Step, src2Step}, bytes(dst), dstStep, n,
           static_cast<std::size_t>(height)};
 }
 
-// Makes one long row of a region without padding. unit: bytes of one of the n in each source, then in
-// the destination.
+// Makes one long row of a region without padding. unit: bytes of one of the n in each source, then
+// in the destination.
 template <int kSources>
 inline void joinRows(Band<kSources>& b, const std::size_t (&unit)[kSources + 1]) {
   bool contiguous = static_cast<std::size_t>(b.dstStep) == b.n * unit[kSources];

@@ -1,5 +1,5 @@
-// The argument checks. Each is true for bad arguments; the tables in api/ say which checks a function
-// makes, in which order, and which status each returns.
+// The argument checks. Each is true for bad arguments; the tables in api/ say which checks a
+// function makes, in which order, and which status each returns.
 #pragma once
 
 #include "core/types.h"

@@ -1,9 +1,9 @@
-// Row driver of masked operations: where the mask byte is not 0, the pixel (of kPixel bytes) takes the
-// source's value. Which bytes a pixel takes is all that matters, not its type and channels.
+// Row driver of masked operations: where the mask byte is not 0, the pixel (of kPixel bytes) takes
+// the source's value. Which bytes a pixel takes is all that matters, not its type and channels.
 //
 // A source has
-//   vector(d, v, offset)   the destination vector at a byte offset of the row; v is its place in a step
-//   byte(j, offset)        the value of byte j of the pixel that starts at offset
+//   vector(d, v, offset)   the destination vector at a byte offset of the row; v is its place in a
+//   step byte(j, offset)        the value of byte j of the pixel that starts at offset
 // Rows end with a step that overlaps the one before: written twice, the result is the same.
 #if defined(KELI_CORE_MASKED_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_CORE_MASKED_INL_H_
@@ -38,8 +38,8 @@ struct Masked {
   }
 
   template <class D, class Source>
-  static HWY_INLINE void step(D d, const std::uint8_t* mask, const Source& source, std::uint8_t* dst,
-                              std::size_t x) {
+  static HWY_INLINE void step(D d, const std::uint8_t* mask, const Source& source,
+                              std::uint8_t* dst, std::size_t x) {
     constexpr std::size_t kN = hn::MaxLanes(D());
     using Plan = ShufflePlan<Spread, kN>;
     unrolled<Plan::kVectors>([&](auto v) HWY_ATTR {
@@ -60,8 +60,8 @@ struct Masked {
   }
 
   template <class D, class Source>
-  static HWY_INLINE bool steps(D d, const std::uint8_t* mask, const Source& source, std::uint8_t* dst,
-                               std::size_t n) {
+  static HWY_INLINE bool steps(D d, const std::uint8_t* mask, const Source& source,
+                               std::uint8_t* dst, std::size_t n) {
     constexpr std::size_t kPixels = ShufflePlan<Spread, hn::MaxLanes(D())>::kPixels;
     if (n < kPixels) return false;
     const std::size_t end = n - kPixels;

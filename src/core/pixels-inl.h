@@ -1,11 +1,11 @@
-// Row driver over pixels of several channels: op takes and gives one vector for each channel, whatever
-// the layouts of source and destination.
+// Row driver over pixels of several channels: op takes and gives one vector for each channel,
+// whatever the layouts of source and destination.
 //
 // An operation (Op) has
-//   vector(d, in)    std::array of vectors, one for each source channel, to one for each destination's
-//   scalar(in)       the same on samples: the definition
-// AC4 and AP4 give and take three channels; a destination's fourth is read and written back (AC4) or
-// not touched (AP4).
+//   vector(d, in)    std::array of vectors, one for each source channel, to one for each
+//   destination's scalar(in)       the same on samples: the definition
+// AC4 and AP4 give and take three channels; a destination's fourth is read and written back (AC4)
+// or not touched (AP4).
 #if defined(KELI_CORE_PIXELS_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_CORE_PIXELS_INL_H_
 #undef KELI_CORE_PIXELS_INL_H_
@@ -85,7 +85,8 @@ struct Pixels {
     if (n >= kN) {
       const std::size_t end = n - kN;
       const auto last = op.vector(d, loadPixels(ds, src, end));
-      for (std::size_t x = 0; x < end; x += kN) storePixels(d, op.vector(d, loadPixels(ds, src, x)), dst, x);
+      for (std::size_t x = 0; x < end; x += kN)
+        storePixels(d, op.vector(d, loadPixels(ds, src, x)), dst, x);
       storePixels(d, last, dst, end);
     } else if constexpr (kBytes > 8 && kBytes / 2 > kWidest) {
       vectors<kBytes / 2>(op, src, dst, n);
@@ -109,7 +110,8 @@ HWY_INLINE void mapPixels(const PlanesBand& b, const Op& op) {
   for (std::size_t y = 0; y < b.rows; ++y) {
     const TS* src[4] = {};
     TD* dst[4] = {};
-    for (int k = 0; k < (isPlanar(kFrom) ? usedChannels(kFrom) : 1); ++k) src[k] = b.srcRow<TS>(k, y);
+    for (int k = 0; k < (isPlanar(kFrom) ? usedChannels(kFrom) : 1); ++k)
+      src[k] = b.srcRow<TS>(k, y);
     for (int k = 0; k < (isPlanar(kTo) ? usedChannels(kTo) : 1); ++k) dst[k] = b.dstRow<TD>(k, y);
     Pixels<kFrom, kTo, TS, TD>::row(op, src, dst, b.n);
   }
