@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs a build, then compiles and runs a program against the installed tree alone: in C and in
 # C++, through the CMake package and through pkg-config, with the shared and the static library.
-# Usage: check_install.sh BUILD_DIR WORK_DIR VERSION   (compilers and flags in CC, CXX, CFLAGS, CXXFLAGS)
+# Usage: check_install.sh BUILD_DIR WORK_DIR VERSION
+# Compilers and their flags are in CC, CXX, CFLAGS and CXXFLAGS.
 set -euo pipefail
 
 build=$1 work=$2 version=$3
