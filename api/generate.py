@@ -98,6 +98,18 @@ def enumerator(text):
     return "k" + text[0].upper() + text[1:]
 
 
+def look_ups(functions):
+    """Functions that tell what a check or a role is called."""
+    out = ["CheckInfo about(Check check) {", "  switch (check) {"]
+    for word, (status, text, _) in CHECKS.items():
+        out += [f"    case Check::{enumerator(word)}:", f"      return {{{status}, {c_string(text)}}};"]
+    out += ["  }", '  return {kelStatusOk, ""};', "}", "", "const char* nameOf(Role role) {",
+            "  switch (role) {"]
+    for role in sorted({a.role for f in functions for a in f.arguments}):
+        out += [f"    case Role::{enumerator(role)}:", f"      return {c_string(role)};"]
+    return out + ["    default:", '      return "";', "  }", "}"]
+
+
 def registry(tables, statuses):
     functions = [f for t in tables for e in t["entry"] for f in e["functions"]]
     entries = [(t, e) for t in tables for e in t["entry"]]
@@ -141,8 +153,8 @@ def registry(tables, statuses):
     out += [f"    {{{s['value']}, {c_string(s['name'])}, {c_string(s['text'])}}}," for s in statuses]
     out += ["};", "", "}  // namespace", "",
             "Span<Function> functions() { return {kFunctions, std::size(kFunctions)}; }",
-            "Span<Status> statuses() { return {kStatuses, std::size(kStatuses)}; }", "",
-            "}  // namespace keli::registry", ""]
+            "Span<Status> statuses() { return {kStatuses, std::size(kStatuses)}; }", ""]
+    out += look_ups(functions) + ["", "}  // namespace keli::registry", ""]
     return "\n".join(out)
 
 

@@ -13,6 +13,8 @@ constexpr TypeInfo kTypes[] = {{"", 0},    {"8u", 1},   {"8s", 1},   {"16u", 2},
                                {"16s", 2}, {"32s", 4},  {"64s", 8},  {"32f", 4},
                                {"64f", 8}, {"16sc", 4}, {"32sc", 8}, {"32fc", 8}};
 
+constexpr const char* kLayouts[] = {"C1", "C2", "C3", "C4", "AC4", "P2", "P3", "P4", "AP4"};
+
 }  // namespace
 
 const Function* find(std::string_view name) {
@@ -31,6 +33,7 @@ const char* statusName(KelStatus status) {
 
 std::size_t bytesOf(Type type) { return kTypes[static_cast<int>(type)].bytes; }
 const char* nameOf(Type type) { return kTypes[static_cast<int>(type)].name; }
+const char* nameOf(Layout layout) { return kLayouts[static_cast<int>(layout)]; }
 
 bool isImage(Role role) { return role <= Role::kMask; }
 

@@ -50,6 +50,12 @@ enum class Role : std::uint8_t {
 
 enum class Check : std::uint8_t { kNull, kSize, kStep, kValues, kOrder };
 
+// What a check answers, and when.
+struct CheckInfo {
+  KelStatus status;
+  const char* text;
+};
+
 template <class T>
 struct Span {
   const T* data;
@@ -130,7 +136,10 @@ const Function* find(std::string_view name);
 const char* statusName(KelStatus status);
 
 std::size_t bytesOf(Type type);
-const char* nameOf(Type type);  // the type code: "8u"
+const char* nameOf(Type type);      // the type code: "8u"
+const char* nameOf(Layout layout);  // "AC4"
+const char* nameOf(Role role);      // as the tables write it: "sourceChannel"
+CheckInfo about(Check check);
 bool isImage(Role role);
 bool isWritten(Role role);
 

@@ -912,4 +912,57 @@ constexpr Status kStatuses[] = {
 Span<Function> functions() { return {kFunctions, std::size(kFunctions)}; }
 Span<Status> statuses() { return {kStatuses, std::size(kStatuses)}; }
 
+CheckInfo about(Check check) {
+  switch (check) {
+    case Check::kNull:
+      return {kelStatusNullPointer, "a pointer is null"};
+    case Check::kSize:
+      return {kelStatusBadSize, "roiSize is below 1 in width or height"};
+    case Check::kStep:
+      return {kelStatusBadStep, "a step is below 1"};
+    case Check::kValues:
+      return {kelStatusNullPointer, "the array of values is null"};
+    case Check::kOrder:
+      return {kelStatusBadChannelOrder, "an entry of dstOrder is outside 0..2"};
+  }
+  return {kelStatusOk, ""};
+}
+
+const char* nameOf(Role role) {
+  switch (role) {
+    case Role::kBlock:
+      return "block";
+    case Role::kConstant:
+      return "constant";
+    case Role::kDestination:
+      return "destination";
+    case Role::kDestinationChannel:
+      return "destinationChannel";
+    case Role::kExtent:
+      return "extent";
+    case Role::kInOut:
+      return "inOut";
+    case Role::kMask:
+      return "mask";
+    case Role::kOrder:
+      return "order";
+    case Role::kRegion:
+      return "region";
+    case Role::kScalar:
+      return "scalar";
+    case Role::kSource:
+      return "source";
+    case Role::kSourceChannel:
+      return "sourceChannel";
+    case Role::kStep:
+      return "step";
+    case Role::kStepOut:
+      return "stepOut";
+    case Role::kUnread:
+      return "unread";
+    default:
+      return "";
+  }
+}
+
 }  // namespace keli::registry

@@ -1,0 +1,155 @@
+// Tests of what the benchmark's figures rest on: that the limits move all bytes and no others, that
+// a peer with another result is found, and that arguments are as the rows expect.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <stdexcept>
+
+#include "contest.h"
+
+namespace keli::bench {
+namespace {
+
+const registry::Function& function(const char* name) {
+  const registry::Function* f = registry::find(name);
+  if (f == nullptr) throw std::runtime_error(name);
+  return *f;
+}
+
+std::vector<std::uint8_t> allBytes(const Image& image) {
+  const std::size_t bytes = static_cast<std::size_t>(image.step()) * image.height();
+  return {image.data(), image.data() + bytes * image.planes()};
+}
+
+// Sizes with and without padding, and with rows that no vector divides.
+const Size kSizes[] = {{64, 64, 0}, {61, 7, 0}, {64, 5, 32}, {3, 3, 0}, {257, 33, 1}};
+
+TEST(Limits, MovesCopyTheRegionAndNothingElse) {
+  for (const char* name : {"keliCopy_8u_C1R", "keliCopy_16s_C3R", "keliCopy_32f_C4R"}) {
+    for (const Size size : kSizes) {
+      const Frame frame(function(name), size, {});
+      frame.call();
+      const std::vector<std::uint8_t> expected = allBytes(frame.destination());
+      for (const LimitVariant& v : limitVariants(Limit::kMove, frame)) {
+        frame.resetDestination();
+        v.work();
+        EXPECT_EQ(allBytes(frame.destination()), expected)
+            << v.name << " " << name << " " << nameOf(size);
+      }
+    }
+  }
+}
+
+TEST(Limits, FillsWriteTheRegionAndNothingElse) {
+  for (const Size size : kSizes) {
+    const Frame frame(function("keliSet_8u_C3R"), size, {});
+    const Image& image = frame.destination();
+    for (const LimitVariant& v : limitVariants(Limit::kFill, frame)) {
+      frame.resetDestination();
+      const std::vector<std::uint8_t> before = allBytes(image);
+      v.work();
+      const std::vector<std::uint8_t> after = allBytes(image);
+      for (std::size_t i = 0; i < after.size(); ++i) {
+        const bool inside = i % image.step() < 3u * size.width;
+        ASSERT_EQ(after[i] != before[i], inside) << v.name << " " << nameOf(size) << " byte " << i;
+      }
+    }
+  }
+}
+
+TEST(Limits, MovesInPlaceKeepTheImage) {
+  const Frame frame(function("keliSwapChannels_8u_C3IR"), {61, 7, 3}, {});
+  const std::vector<std::uint8_t> before = allBytes(frame.destination());
+  for (const LimitVariant& v : limitVariants(Limit::kMove, frame)) {
+    v.work();
+    EXPECT_EQ(allBytes(frame.destination()), before) << v.name;
+  }
+}
+
+TEST(Limits, MovesOfUnequalSizesLeaveTheLargerSourceAlone) {
+  const Frame frame(function("keliCopy_32f_AC4C3R"), {64, 16, 0}, {});
+  const std::vector<std::uint8_t> source = allBytes(frame.source());
+  const std::vector<std::uint8_t> destination = allBytes(frame.destination());
+  for (const LimitVariant& v : limitVariants(Limit::kMove, frame)) v.work();
+  EXPECT_EQ(allBytes(frame.source()), source);
+  EXPECT_EQ(allBytes(frame.destination()), destination);
+}
+
+// A peer that does what the function does and then changes one byte of the region.
+std::string compareWithChange(const char* name, std::size_t byte, int change, double tolerance) {
+  const Frame frame(function(name), {9, 4, 0}, {});
+  const Peer peer{name, "peer", nullptr, tolerance};
+  return compare(frame, peer, [&] {
+    frame.call();
+    frame.destination().data()[frame.destination().step() + byte] += change;
+  });
+}
+
+TEST(Compare, FindsOneChangedSample) {
+  EXPECT_EQ(compareWithChange("keliCopy_8u_C3R", 4, 0, 0), "");
+  EXPECT_NE(compareWithChange("keliCopy_8u_C3R", 4, 1, 0), "");
+  EXPECT_EQ(compareWithChange("keliCopy_8u_C3R", 30, 1, 0), "") << "beyond the region";
+  EXPECT_NE(compareWithChange("keliCopy_32f_C1R", 8, 1, 0), "");
+}
+
+TEST(Compare, IgnoresOnlyFourthSamplesOfAC4) {
+  EXPECT_EQ(compareWithChange("keliCopy_8u_AC4R", 7, 1, 0), "");
+  EXPECT_NE(compareWithChange("keliCopy_8u_AC4R", 6, 1, 0), "");
+  EXPECT_NE(compareWithChange("keliCopy_8u_C4R", 7, 1, 0), "");
+  EXPECT_NE(compareWithChange("keliCopy_8u_C1C4R", 7, 1, 0), "");
+}
+
+TEST(Compare, AllowsDifferencesUpToTheTolerance) {
+  // The constant is 17: adding 2 does not wrap.
+  EXPECT_EQ(compareWithChange("keliSet_8u_C1R", 0, 2, 2), "");
+  EXPECT_NE(compareWithChange("keliSet_8u_C1R", 0, 2, 1), "");
+}
+
+TEST(Compare, TakesNoNanForAValue) {
+  const Frame frame(function("keliCopy_32f_C1R"), {9, 4, 0}, {});
+  const Peer peer{"", "peer", nullptr, 1e30};
+  const float nan = std::nanf("");
+  EXPECT_NE(compare(frame, peer,
+                    [&] {
+                      frame.call();
+                      std::memcpy(frame.destination().data(), &nan, sizeof(nan));
+                    }),
+            "");
+}
+
+TEST(Frame, MasksSelectAboutHalfInRuns) {
+  const Frame frame(function("keliSet_8u_C1MR"), {640, 480, 0}, {});
+  const std::vector<std::uint8_t> mask = allBytes(frame.mask());
+  const auto set = std::count(mask.begin(), mask.end(), 255);
+  EXPECT_EQ(set + std::count(mask.begin(), mask.end(), 0), 640 * 480);
+  EXPECT_GT(set, 640 * 480 * 0.4);
+  EXPECT_LT(set, 640 * 480 * 0.6);
+  std::ptrdiff_t changes = 0;
+  for (std::size_t i = 1; i < mask.size(); ++i) changes += mask[i] != mask[i - 1];
+  EXPECT_LT(changes, 640 * 480 / 8);
+  EXPECT_GT(changes, 640 * 480 / 64);
+}
+
+TEST(Tables, ExpandNamesAllChoices) {
+  EXPECT_EQ(expand("keliCopy_8u_C1R"), (std::vector<std::string>{"keliCopy_8u_C1R"}));
+  EXPECT_EQ(expand("a{1,2}{x,}"), (std::vector<std::string>{"a1x", "a1", "a2x", "a2"}));
+  EXPECT_THROW(expand("a{1"), std::runtime_error);
+}
+
+TEST(Tables, RefuseRowsAndPeersThatNameNothing) {
+  EXPECT_TRUE(entries().empty());
+  EXPECT_FALSE(functionsWithoutRow().empty());
+  AddPeers({{"keliCopy_8u_C1R", "peer", nullptr}});
+  EXPECT_THROW(entries(), std::runtime_error);
+  AddFamily({"f", "F", {{"keliCopy_{8u,16s}_C1R", Limit::kMove}}});
+  ASSERT_EQ(entries().size(), 2u);
+  EXPECT_EQ(entries()[0].peers.size(), 1u);
+  EXPECT_TRUE(entries()[1].peers.empty());
+  AddFamily({"g", "G", {{"keliCopy_9u_C1R", Limit::kMove}}});
+  EXPECT_THROW(entries(), std::runtime_error);
+}
+
+}  // namespace
+}  // namespace keli::bench

@@ -1,0 +1,208 @@
+// Images and arguments of the calls that are timed.
+#include "frame.h"
+
+#include <cstring>
+#include <stdexcept>
+
+#include "samples.h"
+
+namespace keli::bench {
+
+using registry::Argument;
+using registry::Role;
+using registry::Type;
+using registry::Value;
+
+namespace {
+
+// The library allocates by sample size; which type of that size does not matter.
+const char* allocatedType(std::size_t sampleBytes) {
+  return sampleBytes == 1 ? "8u" : sampleBytes == 2 ? "16u" : sampleBytes == 4 ? "32s" : "32fc";
+}
+
+std::uint64_t nextRandom(std::uint64_t* state) {
+  std::uint64_t x = *state;
+  x ^= x << 13;
+  x ^= x >> 7;
+  x ^= x << 17;
+  return *state = x;
+}
+
+// Values of a lattice at the corners of cells, uniform in 0..1.
+double latticeValue(std::uint64_t seed, int x, int y) {
+  std::uint64_t state = seed ^ (std::uint64_t{0x9E3779B97F4A7C15} * (x + 1)) ^
+                        (std::uint64_t{0xC2B2AE3D27D4EB4F} * (y + 1));
+  nextRandom(&state);
+  return static_cast<double>(nextRandom(&state) >> 11) / 9007199254740992.0;
+}
+
+}  // namespace
+
+std::string nameOf(Size size) {
+  std::string name = std::to_string(size.width) + "x" + std::to_string(size.height);
+  return size.padding == 0 ? name : name + "+" + std::to_string(size.padding);
+}
+
+Image::Image(Type type, Layout layout, Size size) : type_(type), layout_(layout), size_(size) {
+  const std::string allocator = std::string("keliMalloc_") + allocatedType(bytesOf(type)) + "_C" +
+                                std::to_string(pixelSamples(layout));
+  const registry::Function* function = registry::find(allocator);
+  if (function == nullptr) throw std::runtime_error("no allocator " + allocator);
+  Value arguments[3];
+  arguments[0].i = size.width + size.padding;
+  arguments[1].i = std::int64_t{size.height} * planes();
+  arguments[2].p = &step_;
+  memory_.reset(const_cast<void*>((*function)(arguments).pointer));
+  if (memory_ == nullptr) throw std::runtime_error("no memory for an image of " + nameOf(size));
+}
+
+std::uint8_t* Image::plane(int index) const {
+  return static_cast<std::uint8_t*>(memory_.get()) +
+         static_cast<std::size_t>(step_) * size_.height * index;
+}
+
+Block Image::block() const {
+  const std::size_t rowBytes = bytesOf(type_) * samplesPerPixel() * size_.width;
+  const std::size_t step = step_;
+  const std::size_t rows = static_cast<std::size_t>(size_.height) * planes();
+  if (rowBytes == step) return {data(), rowBytes * rows, rowBytes * rows, 1};
+  return {data(), rowBytes, step, rows};
+}
+
+// Integer samples take any value; floating ones lie in 0..256, so that no operation meets a NaN, an
+// infinity or a denormal number by accident.
+void Image::fillPattern(std::uint64_t seed) const {
+  std::uint64_t state = seed * 0x9E3779B97F4A7C15 + 1;
+  const std::size_t bytes = static_cast<std::size_t>(step_) * size_.height * planes();
+  if (!isFloating(type_)) {
+    for (std::size_t i = 0; i < bytes; i += 8) {
+      const std::uint64_t word = nextRandom(&state);
+      std::memcpy(data() + i, &word, 8);
+    }
+    return;
+  }
+  withComponent(type_, [&](auto component) {
+    for (std::size_t i = 0; i < bytes; i += sizeof(component)) {
+      component = static_cast<decltype(component)>(nextRandom(&state) >> 40) / 65536;
+      std::memcpy(data() + i, &component, sizeof(component));
+    }
+  });
+}
+
+void Image::fillBytes(std::uint8_t value) const {
+  std::memset(data(), value, static_cast<std::size_t>(step_) * size_.height * planes());
+}
+
+// Noise interpolated between the corners of 16-pixel cells: runs of both values as in real masks.
+void Image::fillBlobs(std::uint64_t seed) const {
+  constexpr int kCell = 16;
+  for (int y = 0; y < size_.height; ++y) {
+    const double fy = static_cast<double>(y % kCell) / kCell;
+    double left = 0;
+    double right = 0;
+    for (int x = 0; x < size_.width; ++x) {
+      if (x % kCell == 0) {
+        const auto column = [&](int i) {
+          return (1 - fy) * latticeValue(seed, x / kCell + i, y / kCell) +
+                 fy * latticeValue(seed, x / kCell + i, y / kCell + 1);
+        };
+        left = column(0);
+        right = column(1);
+      }
+      const double fx = static_cast<double>(x % kCell) / kCell;
+      const bool set = (1 - fx) * left + fx * right >= 0.5;
+      data()[static_cast<std::size_t>(step_) * y + x] = set ? 255 : 0;
+    }
+  }
+}
+
+Frame::Frame(const registry::Function& function, Size size, const Choices& choices)
+    : function_(function), size_(size), choices_(choices) {
+  for (const Argument& argument : function.arguments) addArgument(argument);
+  resetDestination();
+}
+
+void Frame::resetDestination() const {
+  if (destination_ == nullptr) return;
+  if (function_.inPlace) {
+    destination_->fillPattern(9);
+  } else {
+    destination_->fillBytes(0x5A);
+  }
+}
+
+void Frame::addImage(const Argument& argument) {
+  auto image = std::make_unique<Image>(argument.type, argument.layout, size_);
+  lastStep_ = image->step();
+  const bool oneChannel =
+      argument.role == Role::kSourceChannel || argument.role == Role::kDestinationChannel;
+  Value value;
+  value.p = image->data() + (oneChannel ? kChannel * bytesOf(argument.type) : 0);
+  if (isPlanar(argument.layout)) {
+    auto planes = std::make_unique<std::uint64_t[]>(image->planes());
+    for (int k = 0; k < image->planes(); ++k) {
+      const std::uint8_t* plane = image->plane(k);
+      std::memcpy(reinterpret_cast<std::uint8_t*>(planes.get()) + k * sizeof(plane), &plane,
+                  sizeof(plane));
+    }
+    value.p = planes.get();
+    arrays_.push_back(std::move(planes));
+  }
+  values_.push_back(value);
+  if (argument.role == Role::kMask) {
+    image->fillBlobs(5);
+    mask_ = std::move(image);
+  } else if (isWritten(argument.role)) {
+    if (destination_ != nullptr) throw std::runtime_error("more than one written image");
+    destination_ = std::move(image);
+  } else {
+    image->fillPattern(1 + sources_.size());
+    sources_.push_back(std::move(image));
+  }
+}
+
+void Frame::addConstant(const Argument& argument) {
+  Value value{};
+  if (argument.length > 0) {
+    auto array = std::make_unique<std::uint64_t[]>(argument.length);
+    for (int k = 0; k < argument.length; ++k) {
+      storeSample(argument.type, array.get(), k, constant(k));
+    }
+    value.p = array.get();
+    arrays_.push_back(std::move(array));
+  } else if (isComplex(argument.type)) {
+    storeSample(argument.type, &value, 0, constant(0));
+  } else if (isFloating(argument.type)) {
+    value.f = constant(0);
+  } else {
+    value.i = static_cast<std::int64_t>(constant(0));
+  }
+  values_.push_back(value);
+}
+
+void Frame::addArgument(const Argument& argument) {
+  Value value{};
+  switch (argument.role) {
+    case Role::kConstant:
+    case Role::kScalar:
+      return addConstant(argument);
+    case Role::kStep:
+      value.i = lastStep_;
+      break;
+    case Role::kRegion:
+      value.size = {size_.width, size_.height};
+      break;
+    case Role::kScaleFactor:
+      value.i = choices_.scaleFactor;
+      break;
+    case Role::kOrder:
+      value.p = kOrder;
+      break;
+    default:
+      if (isImage(argument.role)) return addImage(argument);
+      throw std::runtime_error(std::string("nothing provides the argument ") + argument.name);
+  }
+  values_.push_back(value);
+}
+
+}  // namespace keli::bench

@@ -1,0 +1,112 @@
+// The arguments of one call, made from the registry's roles: images from the library's allocators
+// with a seeded pattern, a mask of blobs, constants.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "registry/registry.h"
+
+namespace keli::bench {
+
+// In pixels. padding: pixels of each row beyond the region.
+struct Size {
+  int width;
+  int height;
+  int padding;
+};
+
+std::string nameOf(Size size);  // "640x480", "16x16+48"
+
+// Rows of equally many bytes, step bytes apart.
+struct Block {
+  std::uint8_t* data;
+  std::size_t rowBytes;
+  std::size_t step;
+  std::size_t rows;
+
+  std::size_t bytes() const { return rowBytes * rows; }
+};
+
+// A planar image is one allocation, one plane after another.
+class Image {
+ public:
+  Image(registry::Type type, Layout layout, Size size);
+
+  registry::Type type() const { return type_; }
+  Layout layout() const { return layout_; }
+  int width() const { return size_.width; }
+  int height() const { return size_.height; }
+  int step() const { return step_; }
+  int planes() const { return isPlanar(layout_) ? storedChannels(layout_) : 1; }
+  int samplesPerPixel() const { return pixelSamples(layout_); }
+  std::uint8_t* plane(int index) const;
+  std::uint8_t* data() const { return plane(0); }
+
+  // The region as one block; one row if nothing separates the rows.
+  Block block() const;
+
+  void fillPattern(std::uint64_t seed) const;
+  void fillBytes(std::uint8_t value) const;
+  void fillBlobs(std::uint64_t seed) const;  // about half of the pixels 255, the others 0
+
+ private:
+  struct Free {
+    void operator()(void* block) const { keliFree(block); }
+  };
+
+  registry::Type type_;
+  Layout layout_;
+  Size size_;
+  int step_ = 0;
+  std::unique_ptr<void, Free> memory_;
+};
+
+// What a row of the tables may choose about the arguments.
+struct Choices {
+  int scaleFactor = 0;
+  double constant = 17;  // of the first channel; that of channel k is (k + 1) times as large
+};
+
+// The channel that functions of a single channel of interleaved pixels work on.
+constexpr int kChannel = 1;
+constexpr int kOrder[3] = {2, 1, 0};
+
+class Frame {
+ public:
+  // Throws std::runtime_error if the function has an argument that no role here provides.
+  Frame(const registry::Function& function, Size size, const Choices& choices);
+
+  const Image& source(std::size_t index = 0) const { return *sources_.at(index); }
+  const Image& destination() const { return *destination_; }
+  const Image& mask() const { return *mask_; }
+  bool hasSource() const { return !sources_.empty(); }
+  bool hasDestination() const { return destination_ != nullptr; }
+  double constant(int channel) const { return choices_.constant * (channel + 1); }
+
+  // Calls the function.
+  KelStatus call() const { return function_(values_.data()).status; }
+
+  // Gives the written image its state before the first call.
+  void resetDestination() const;
+
+ private:
+  void addImage(const registry::Argument& argument);
+  void addConstant(const registry::Argument& argument);
+  void addArgument(const registry::Argument& argument);
+
+  const registry::Function& function_;
+  Size size_;
+  Choices choices_;
+  std::vector<std::unique_ptr<Image>> sources_;
+  std::unique_ptr<Image> destination_;
+  std::unique_ptr<Image> mask_;
+  std::vector<std::unique_ptr<std::uint64_t[]>> arrays_;
+  std::vector<registry::Value> values_;
+  int lastStep_ = 0;
+};
+
+}  // namespace keli::bench

@@ -1,0 +1,245 @@
+// Moving, filling and reading memory with library calls and with 32-byte loads and stores.
+//
+// The loops hold a compiler barrier in every round: they stay as written and do not become calls of
+// memcpy or memset.
+#include "memory_limits.h"
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+
+#if defined(__x86_64__)
+#include <immintrin.h>
+#define KELI_BENCH_AVX2 __attribute__((target("avx2")))
+#endif
+
+namespace keli::bench {
+namespace {
+
+using Mover = void (*)(std::uint8_t* to, const std::uint8_t* from, std::size_t bytes);
+using Filler = void (*)(std::uint8_t* to, std::size_t bytes);
+using Reader = std::uint64_t (*)(const std::uint8_t* from, std::size_t bytes);
+
+constexpr std::size_t kPiece = 4096;
+constexpr std::uint8_t kFillByte = 0x11;
+
+inline void barrier() { asm volatile("" ::: "memory"); }
+
+void moveAtOnce(std::uint8_t* to, const std::uint8_t* from, std::size_t bytes) {
+  std::memcpy(to, from, bytes);
+}
+
+void moveInPieces(std::uint8_t* to, const std::uint8_t* from, std::size_t bytes) {
+  for (std::size_t i = 0; i < bytes; i += kPiece) {
+    std::memcpy(to + i, from + i, std::min(kPiece, bytes - i));
+  }
+}
+
+void fillAtOnce(std::uint8_t* to, std::size_t bytes) { std::memset(to, kFillByte, bytes); }
+
+void fillInPieces(std::uint8_t* to, std::size_t bytes) {
+  for (std::size_t i = 0; i < bytes; i += kPiece) {
+    std::memset(to + i, kFillByte, std::min(kPiece, bytes - i));
+  }
+}
+
+std::uint64_t readWords(const std::uint8_t* from, std::size_t bytes) {
+  std::uint64_t sums[4] = {};
+  std::size_t i = 0;
+  for (; i + 32 <= bytes; i += 32) {
+    std::uint64_t words[4];
+    std::memcpy(words, from + i, 32);
+    for (int k = 0; k < 4; ++k) sums[k] += words[k];
+  }
+  for (; i < bytes; ++i) sums[0] += from[i];
+  return sums[0] + sums[1] + sums[2] + sums[3];
+}
+
+#ifdef KELI_BENCH_AVX2
+
+constexpr std::size_t kVector = 32;
+
+template <bool kStream>
+KELI_BENCH_AVX2 inline void storeVector(std::uint8_t* to, __m256i v) {
+  if constexpr (kStream) {
+    _mm256_stream_si256(reinterpret_cast<__m256i*>(to), v);
+  } else {
+    _mm256_storeu_si256(reinterpret_cast<__m256i*>(to), v);
+  }
+}
+
+template <int kVectors, bool kStream>
+KELI_BENCH_AVX2 void moveVectors(std::uint8_t* to, const std::uint8_t* from, std::size_t bytes) {
+  std::size_t i = 0;
+  for (; i + kVectors * kVector <= bytes; i += kVectors * kVector) {
+    __m256i v[kVectors];
+    for (int k = 0; k < kVectors; ++k) {
+      v[k] = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(from + i + k * kVector));
+    }
+    for (int k = 0; k < kVectors; ++k) storeVector<kStream>(to + i + k * kVector, v[k]);
+    barrier();
+  }
+  if (to != from) std::memcpy(to + i, from + i, bytes - i);
+  if constexpr (kStream) _mm_sfence();
+}
+
+template <int kVectors, bool kStream>
+KELI_BENCH_AVX2 void fillVectors(std::uint8_t* to, std::size_t bytes) {
+  const __m256i v = _mm256_set1_epi8(kFillByte);
+  std::size_t i = 0;
+  for (; i + kVectors * kVector <= bytes; i += kVectors * kVector) {
+    for (int k = 0; k < kVectors; ++k) storeVector<kStream>(to + i + k * kVector, v);
+    barrier();
+  }
+  std::memset(to + i, kFillByte, bytes - i);
+  if constexpr (kStream) _mm_sfence();
+}
+
+KELI_BENCH_AVX2 std::uint64_t readVectors(const std::uint8_t* from, std::size_t bytes) {
+  __m256i sums[4] = {};
+  std::size_t i = 0;
+  for (; i + 4 * kVector <= bytes; i += 4 * kVector) {
+    for (int k = 0; k < 4; ++k) {
+      const auto* p = reinterpret_cast<const __m256i*>(from + i + k * kVector);
+      sums[k] = _mm256_add_epi64(sums[k], _mm256_loadu_si256(p));
+    }
+  }
+  const __m256i sum =
+      _mm256_add_epi64(_mm256_add_epi64(sums[0], sums[1]), _mm256_add_epi64(sums[2], sums[3]));
+  return static_cast<std::uint64_t>(_mm256_extract_epi64(sum, 0)) + readWords(from + i, bytes - i);
+}
+
+bool hasVectors() { return __builtin_cpu_supports("avx2"); }
+
+#else
+
+bool hasVectors() { return false; }
+
+#endif
+
+template <class F>
+struct Named {
+  const char* name;
+  F function;
+};
+
+std::vector<Named<Mover>> movers(bool inPlace) {
+  std::vector<Named<Mover>> result;
+  if (!inPlace) result = {{"memcpy", moveAtOnce}, {"memcpy of 4 KiB", moveInPieces}};
+#ifdef KELI_BENCH_AVX2
+  if (hasVectors()) {
+    result.push_back({"stores", moveVectors<1, false>});
+    result.push_back({"4 stores", moveVectors<4, false>});
+    result.push_back({"streaming", moveVectors<1, true>});
+    result.push_back({"4 streaming", moveVectors<4, true>});
+  }
+#endif
+  // Where overlap is allowed, memmove.
+  if (result.empty()) {
+    result.push_back({"memmove", [](std::uint8_t* to, const std::uint8_t* from, std::size_t bytes) {
+                        std::memmove(to, from, bytes);
+                      }});
+  }
+  return result;
+}
+
+std::vector<Named<Filler>> fillers() {
+  std::vector<Named<Filler>> result = {{"memset", fillAtOnce}, {"memset of 4 KiB", fillInPieces}};
+#ifdef KELI_BENCH_AVX2
+  if (hasVectors()) {
+    result.push_back({"stores", fillVectors<1, false>});
+    result.push_back({"4 stores", fillVectors<4, false>});
+    result.push_back({"streaming", fillVectors<1, true>});
+    result.push_back({"4 streaming", fillVectors<4, true>});
+  }
+#endif
+  return result;
+}
+
+std::vector<Named<Reader>> readers() {
+  std::vector<Named<Reader>> result = {{"8-byte loads", readWords}};
+#ifdef KELI_BENCH_AVX2
+  if (hasVectors()) result.push_back({"4 loads", readVectors});
+#endif
+  return result;
+}
+
+// A scratch block shaped like another one; its memory lives as long as the result's owner.
+struct Scratch {
+  std::shared_ptr<Image> image;
+  Block block;
+};
+
+Scratch scratchLike(const Block& b) {
+  const int width = static_cast<int>(b.rowBytes);
+  const int padding = static_cast<int>(b.step - b.rowBytes);
+  auto image = std::make_shared<Image>(registry::Type::k8u, Layout::C1,
+                                       Size{width, static_cast<int>(b.rows), padding});
+  image->fillPattern(3);
+  return {image, {image->data(), b.rowBytes, static_cast<std::size_t>(image->step()), b.rows}};
+}
+
+std::vector<LimitVariant> moves(Block to, Block from) {
+  std::shared_ptr<Image> scratch;
+  if (to.rowBytes != from.rowBytes || to.rows != from.rows) {
+    const bool readsMore = from.bytes() > to.bytes();
+    Scratch s = scratchLike(readsMore ? from : to);
+    (readsMore ? to : from) = s.block;
+    scratch = s.image;
+  }
+  std::vector<LimitVariant> result;
+  for (const auto& [name, move] : movers(to.data == from.data)) {
+    // Naming the function apart: structured bindings cannot be captured.
+    const Mover mover = move;
+    result.push_back({name, [to, from, mover, scratch] {
+                        for (std::size_t y = 0; y < to.rows; ++y) {
+                          mover(to.data + y * to.step, from.data + y * from.step, to.rowBytes);
+                        }
+                      }});
+  }
+  return result;
+}
+
+std::vector<LimitVariant> fills(Block to) {
+  std::vector<LimitVariant> result;
+  for (const auto& [name, fill] : fillers()) {
+    const Filler filler = fill;
+    result.push_back({name, [to, filler] {
+                        for (std::size_t y = 0; y < to.rows; ++y) {
+                          filler(to.data + y * to.step, to.rowBytes);
+                        }
+                      }});
+  }
+  return result;
+}
+
+std::vector<LimitVariant> reads(Block from) {
+  std::vector<LimitVariant> result;
+  for (const auto& [name, read] : readers()) {
+    const Reader reader = read;
+    result.push_back({name, [from, reader] {
+                        std::uint64_t sum = 0;
+                        for (std::size_t y = 0; y < from.rows; ++y) {
+                          sum += reader(from.data + y * from.step, from.rowBytes);
+                        }
+                        asm volatile("" ::"r"(sum) : "memory");
+                      }});
+  }
+  return result;
+}
+
+}  // namespace
+
+std::vector<LimitVariant> limitVariants(Limit limit, const Frame& frame) {
+  const Block to = frame.hasDestination() ? frame.destination().block() : Block{};
+  switch (limit) {
+    case Limit::kFill:
+      return fills(to);
+    case Limit::kRead:
+      return reads(frame.source().block());
+    default:
+      return moves(to, frame.hasSource() ? frame.source().block() : to);
+  }
+}
+
+}  // namespace keli::bench

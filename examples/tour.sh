@@ -1,0 +1,78 @@
+#!/bin/bash
+# A tour of the functions: runs the tool on the sample photographs, printing every command, and puts
+# the results on one labelled sheet. Needs ImageMagick and the DejaVu fonts.
+#
+# Usage: examples/tour.sh BUILD_DIR OUT.png
+set -euo pipefail
+
+if [ $# -ne 2 ]; then
+  echo "usage: $0 BUILD_DIR OUT.png" >&2
+  exit 2
+fi
+images=$(cd "$(dirname "$0")/images" && pwd)
+keli=$(cd "$1" && pwd)/tools/keli
+sheet=$(realpath "$2")
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+
+# The photographs in one size, two masks, and a see-through picture for the AC4 functions.
+for name in astronaut chelsea coffee camera; do
+  gravity=center
+  [ $name = astronaut ] && gravity=north
+  convert "$images/$name.png" -resize 400x300^ -gravity $gravity -extent 400x300 $name.png
+done
+convert -size 400x300 xc:black -fill white -draw "circle 200,130 200,10" disc.png
+convert -size 400x300 xc:white -fill black -draw "roundrectangle 24,24 375,275 40,40" frame.png
+convert -size 400x300 xc:teal \( -size 400x300 radial-gradient:white-black -level 0%,60% \) \
+  -alpha off -compose CopyOpacity -composite -define png:color-type=6 faded.png
+
+panels=()
+photograph() { panels+=(-label "$1\nthe photograph" "$1"); }
+
+# panel "NOTE" FUNCTION ARGUMENTS...: one command, one panel.
+panel() {
+  local note=$1 out=$(( ${#panels[@]} / 3 )).png
+  shift
+  printf 'keli run %s -o %s\n    ' "$*" "$out"
+  "$keli" run "$@" -o "$out"
+  panels+=(-label "$1\n$note" "$out")
+}
+
+photograph astronaut.png
+photograph chelsea.png
+photograph coffee.png
+photograph camera.png
+
+panel "copied" keliCopy_8u_C3R chelsea.png
+panel "a part copied into coffee.png" keliCopy_16s_C3R chelsea.png \
+  --roi 90,40,220,180 --dst coffee.png
+panel "copied where a disc is white" keliCopy_8u_C3MR astronaut.png --mask disc.png --dst coffee.png
+panel "the alpha was there before" keliCopy_8u_AC4R astronaut.png --dst faded.png
+
+panel "red channel extracted" keliCopy_8u_C3C1R astronaut.png --srcChannel 0
+panel "green channel extracted" keliCopy_8u_C3C1R astronaut.png --srcChannel 1
+panel "blue channel extracted" keliCopy_8u_C3C1R astronaut.png --srcChannel 2
+panel "camera.png into the red channel" keliCopy_8u_C1C3R camera.png --dst coffee.png --dstChannel 0
+
+panel "split into planes, shown joined" keliCopy_8u_C3P3R astronaut.png
+panel "planes interleaved, left half" keliCopy_32f_P3C3R chelsea.png \
+  --roi 0,0,200,300 --dst coffee.png
+panel "red copied into green" keliCopy_8u_C3CR chelsea.png \
+  --dst chelsea.png --srcChannel 0 --dstChannel 1
+panel "colours only, alpha kept" keliCopy_8u_C3AC4R coffee.png --dst faded.png
+
+panel "a colour" keliSet_8u_C3R --value 40,110,160 --size 400x300
+panel "a part set" keliSet_32f_C3R --value 250,190,40 --dst coffee.png --roi 60,40,280,60
+panel "set where a frame is white" keliSet_8u_C3MR \
+  --value 230,90,60 --dst chelsea.png --mask frame.png
+panel "green channel set to 0" keliSet_8u_C3CR --value 0 --dst chelsea.png --dstChannel 1
+
+panel "order 2,1,0" keliSwapChannels_8u_C3R coffee.png --dstOrder 2,1,0
+panel "order 1,2,0" keliSwapChannels_32f_C3R coffee.png --dstOrder 1,2,0
+panel "in place, order 0,0,0" keliSwapChannels_8u_C3IR coffee.png --dstOrder 0,0,0
+panel "order 2,0,1, alpha kept" keliSwapChannels_8u_AC4R coffee.png --dstOrder 2,0,1 --dst faded.png
+
+montage -font DejaVu-Sans -pointsize 13 -fill '#222222' -background white \
+  "${panels[@]}" -tile 4x -geometry 240x180+8+6 -depth 8 "$sheet"
+echo "$(( ${#panels[@]} / 3 )) panels on $2"

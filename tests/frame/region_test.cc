@@ -1,0 +1,197 @@
+// What every function of the registry does to memory: nothing outside the region is read or written,
+// and the result does not depend on address, step, SIMD target, threads, or on being in place.
+#include <gtest/gtest.h>
+#include <omp.h>
+
+#include <functional>
+
+#include "core/parallel.h"
+#include "support/targets.h"
+#include "support/test_call.h"
+
+namespace keli::test {
+namespace {
+
+using registry::Function;
+using registry::Role;
+using Bytes = std::vector<std::uint8_t>;
+
+// Runs f for every function that writes an image and fails if there was none.
+void forEachImageFunction(const std::function<void(const Function&)>& f) {
+  std::size_t count = 0;
+  for (const Function& function : registry::functions()) {
+    bool writes = false;
+    for (const auto& a : function.arguments) writes |= registry::isWritten(a.role);
+    if (!writes) continue;
+    ++count;
+    f(function);
+    if (testing::Test::HasFatalFailure()) return;
+  }
+  ASSERT_GT(count, 0u);
+}
+
+struct Outcome {
+  KelStatus status;
+  Bytes samples;
+};
+
+// With the same samples and parameters for the same seed and size, whatever the geometry.
+Outcome outcomeOf(const Function& f, const Geometry& g, std::uint64_t seed, const Bytes* from = nullptr) {
+  TestCall call(f, g, seed);
+  if (from != nullptr) call.setSamples(call.written(), *from);
+  const KelStatus status = call.run().status;
+  EXPECT_GE(status, 0) << f.name;
+  EXPECT_EQ(call.strayWrites(), "") << "at width " << g.width << ", padding " << g.padding;
+  return {status, call.samples(call.written())};
+}
+
+std::vector<int> widths() {
+  std::vector<int> all;
+  for (int w = 1; w <= 67; ++w) all.push_back(w);
+  for (const int w : {95, 96, 97, 127, 128, 129, 191, 193, 255, 257}) all.push_back(w);
+  return all;
+}
+
+constexpr Geometry kGeometries[] = {
+    {0, 3, 0, Place::kMiddle, 0}, {0, 3, 1, Place::kMiddle, 1},  {0, 2, 0, Place::kEnd, 0},
+    {0, 3, 7, Place::kEnd, 0},    {0, 2, 3, Place::kStart, 0},   {0, 1, 0, Place::kStart, 0},
+    {0, 3, 32, Place::kMiddle, 3}, {0, 1, 0, Place::kEnd, 0},    {0, 2, 64, Place::kMiddle, 17},
+};
+
+TEST(Region, SameResultAtEveryPlaceOnEveryTarget) {
+  const std::vector<std::int64_t> targets = testedTargets();
+  for (const std::int64_t target : targets) std::printf("target %s\n", targetName(target));
+  const std::uint64_t seed = runSeed();
+  forEachImageFunction([&](const Function& f) {
+    for (const int width : widths()) {
+      for (int height = 1; height <= 3; ++height) {
+        Geometry g = {width, height, 0, Place::kMiddle, 0};
+        const Outcome expected = [&] {
+          const UseTarget use(HWY_SCALAR);
+          return outcomeOf(f, g, seed + static_cast<std::uint64_t>(width));
+        }();
+        for (const std::int64_t target : targets) {
+          const UseTarget use(target);
+          for (const Geometry& place : kGeometries) {
+            if (place.height != height) continue;
+            g = place;
+            g.width = width;
+            const Outcome o = outcomeOf(f, g, seed + static_cast<std::uint64_t>(width));
+            ASSERT_EQ(o.status, expected.status) << f.name << " width " << width;
+            ASSERT_EQ(o.samples, expected.samples)
+                << f.name << " " << targetName(target) << " " << width << "x" << height << " padding "
+                << g.padding << " offset " << g.offset;
+          }
+        }
+      }
+    }
+  });
+}
+
+// The function without the I of its descriptor.
+const Function* outOfPlace(const Function& f) {
+  std::string name = f.name;
+  const std::size_t underscore = name.rfind('_');
+  name.erase(name.find('I', underscore), 1);
+  return registry::find(name);
+}
+
+TEST(Region, InPlaceEqualsOutOfPlace) {
+  std::size_t count = 0;
+  forEachImageFunction([&](const Function& f) {
+    if (!f.inPlace) return;
+    ++count;
+    const Function* const plain = outOfPlace(f);
+    ASSERT_NE(plain, nullptr) << f.name;
+    for (const std::int64_t target : testedTargets()) {
+      const UseTarget use(target);
+      for (const int width : {1, 2, 7, 16, 31, 45, 64, 97, 257}) {
+        const Geometry g = {width, 2, 5, Place::kMiddle, 1};
+        TestCall inPlace(f, g, runSeed());
+        TestCall separate(*plain, g, runSeed());
+        // The same parameters and sources, found by their roles; the last source of one is the image
+        // of the other.
+        for (std::size_t i = 0; i < f.arguments.size; ++i) {
+          const Role role = f.arguments[i].role;
+          const std::size_t there = separate.find(role);
+          if (role == Role::kSource) separate.setSamples(there, inPlace.samples(i));
+          if (role != Role::kStep && !registry::isImage(role)) separate.values[there] = inPlace.values[i];
+        }
+        const std::size_t image = inPlace.find(Role::kInOut);
+        separate.setSamples(separate.written(), inPlace.samples(image));
+        separate.setSamples(separate.lastSource(), inPlace.samples(image));
+        ASSERT_EQ(inPlace.run().status, separate.run().status) << f.name;
+        ASSERT_EQ(inPlace.samples(image), separate.samples(separate.written())) << f.name << " width " << width;
+
+        // The out-of-place form with its last source as destination.
+        TestCall aliased(*plain, g, runSeed());
+        for (std::size_t i = 0; i < plain->arguments.size; ++i) {
+          const Role role = plain->arguments[i].role;
+          if (registry::isImage(role) && !registry::isWritten(role)) {
+            aliased.setSamples(i, separate.samples(i));
+          } else if (role != Role::kStep && !registry::isImage(role)) {
+            aliased.values[i] = separate.values[i];
+          }
+        }
+        aliased.values[aliased.written()] = aliased.values[aliased.lastSource()];
+        aliased.run();
+        ASSERT_EQ(aliased.samples(aliased.lastSource()), separate.samples(separate.written()))
+            << f.name << " aliased, width " << width;
+      }
+    }
+  });
+  ASSERT_GT(count, 0u);
+}
+
+// The smallest region that is worth seven threads, so that every team runs.
+Geometry manyThreads(const Function& f) {
+  std::size_t pixel = 0;
+  for (const auto& a : f.arguments) {
+    if (registry::isImage(a.role)) pixel += registry::bytesOf(a.type) * static_cast<std::size_t>(storedChannels(a.layout));
+  }
+  Geometry g = {64, 211, 3, Place::kMiddle, 0};
+  while (core::teamSize(g.height, pixel * static_cast<std::size_t>(g.width) * 211) < 7) g.width += 37;
+  return g;
+}
+
+TEST(Region, SameResultOnAnyNumberOfThreads) {
+  const int threads = omp_get_max_threads();
+  forEachImageFunction([&](const Function& f) {
+    omp_set_num_threads(7);
+    TestCall call(f, manyThreads(f), runSeed());
+    const std::size_t image = call.written();
+    const Bytes initial = call.samples(image);
+    Outcome expected;
+    for (const int count : {1, 2, 7}) {
+      omp_set_num_threads(count);
+      call.setSamples(image, initial);
+      const Outcome o = {call.run().status, call.samples(image)};
+      if (count == 1) expected = o;
+      ASSERT_EQ(o.status, expected.status) << f.name;
+      ASSERT_TRUE(o.samples == expected.samples) << f.name << " on " << count << " threads";
+    }
+    ASSERT_EQ(call.strayWrites(), "");
+  });
+  omp_set_num_threads(threads);
+}
+
+// Rows that are gigabytes apart, in memory that is only reserved.
+TEST(Region, AddressesBeyond32Bits) {
+  if (sizeof(void*) == 4) GTEST_SKIP() << "needs a 64-bit address space";
+  forEachImageFunction([&](const Function& f) {
+    Geometry g = {33, 4, 0, Place::kMiddle, 0};
+    const Outcome expected = outcomeOf(f, g, runSeed());
+    g.padding = 0x7ffff000;
+    TestCall sparse(f, g, runSeed());
+    for (std::size_t i = 0; i < f.arguments.size; ++i) {
+      if (f.arguments[i].role == Role::kStep) {
+        ASSERT_GT(sparse.values[i].i, 0x70000000);
+      }
+    }
+    ASSERT_EQ(sparse.run().status, expected.status);
+    ASSERT_EQ(sparse.samples(sparse.written()), expected.samples) << f.name;
+  });
+}
+
+}  // namespace
+}  // namespace keli::test

@@ -1,0 +1,83 @@
+// A legal call of any function of the registry, built from the roles of its arguments: images between
+// inaccessible pages, random samples, parameters in range. Tests change values, run it, and ask what
+// was written.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "registry/registry.h"
+#include "support/arena.h"
+
+namespace keli::test {
+
+// Where an image lies in its arena.
+enum class Place { kStart, kMiddle, kEnd };
+
+struct Geometry {
+  int width = 16;
+  int height = 3;
+  int padding = 0;  // bytes between rows
+  Place place = Place::kMiddle;
+  int offset = 0;   // bytes from an aligned address, for kMiddle
+};
+
+class TestCall {
+ public:
+  TestCall(const registry::Function& function, const Geometry& geometry, std::uint64_t seed);
+
+  const registry::Function& function;
+  std::vector<registry::Value> values;
+
+  registry::Result run() const { return function(values.data()); }
+
+  // Of the image's plane that argument i describes.
+  std::size_t stepOf(std::size_t argument) const { return images_[imageAt_[argument]].step; }
+  std::uint8_t* planeOf(std::size_t argument, int plane) const;
+  // Index of the first argument of a role, or npos.
+  static constexpr std::size_t npos = static_cast<std::size_t>(-1);
+  std::size_t find(registry::Role role) const;
+  // The last image that is read, and the one that is written.
+  std::size_t lastSource() const;
+  std::size_t written() const;
+
+  // The samples of an image, row after row without what lies between.
+  std::vector<std::uint8_t> samples(std::size_t argument) const;
+  void setSamples(std::size_t argument, const std::vector<std::uint8_t>& samples);
+
+  // Empty if no byte has changed since construction (or since remember()) in any image or array but
+  // those samples that the function may write; else what has changed.
+  std::string strayWrites() const;
+  // Empty if no byte at all has changed.
+  std::string anyWrites() const;
+  void remember();
+
+ private:
+  struct Image {
+    std::size_t argument;
+    std::vector<std::uint8_t*> planes;
+    std::size_t step;
+    std::size_t pixel;       // bytes from one pixel to the next
+    std::size_t used;        // bytes of a pixel that belong to the function
+    std::size_t rowBytes;    // from the first to the last byte of a row's pixels
+  };
+
+  void addImage(std::size_t argument, const Geometry& g, Random& random);
+  void addArray(std::size_t argument, std::size_t count, const Geometry& g, const void* data);
+  std::uint8_t* place(std::size_t count, const Geometry& g);
+  bool mayWrite(const std::uint8_t* p) const;
+  std::string changes(bool all) const;
+
+  KeliSize size_;
+  std::vector<Image> images_;
+  std::vector<std::size_t> imageAt_;  // by argument
+  std::vector<std::shared_ptr<Arena>> arenas_;
+  std::vector<std::vector<std::uint8_t>> before_;
+  std::vector<std::unique_ptr<const void*[]>> planeArrays_;
+};
+
+// Random samples, every now and then an extreme or special one.
+void fillSamples(registry::Type type, std::uint8_t* p, std::size_t count, Random& random);
+
+}  // namespace keli::test

@@ -1,0 +1,268 @@
+// From files and options to arguments, by the arguments' roles alone: no function is known by name.
+#include "run.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <deque>
+#include <optional>
+
+#include "options.h"
+#include "raster.h"
+#include "sample_type.h"
+
+namespace keli::tool {
+namespace {
+
+using registry::Argument;
+using registry::Function;
+using registry::Role;
+using registry::Type;
+using registry::Value;
+
+bool isInput(Role role) {
+  return role == Role::kSource || role == Role::kSourceChannel || role == Role::kInOut;
+}
+
+bool isParameter(Role role) {
+  return role == Role::kConstant || role == Role::kScalar || role == Role::kScaleFactor ||
+         role == Role::kOrder;
+}
+
+bool isSupplied(Role role) {
+  return registry::isImage(role) || isParameter(role) || role == Role::kStep ||
+         role == Role::kRegion;
+}
+
+// Parameters without a sample type are C ints.
+Type numberType(const Argument& a) { return a.type == Type::kNone ? Type::k32s : a.type; }
+
+template <class Condition>
+int count(const Function& f, Condition condition) {
+  return static_cast<int>(std::count_if(f.arguments.begin(), f.arguments.end(),
+                                        [&](const Argument& a) { return condition(a.role); }));
+}
+
+std::string sizeText(int width, int height) {
+  return std::to_string(width) + "x" + std::to_string(height);
+}
+
+void requireCallable(const Function& f) {
+  std::string name = f.name;
+  if (count(f, registry::isImage) == 0) throw UsageError(name + " is not an image function");
+  for (const Argument& a : f.arguments) {
+    bool holdsSamples = registry::isImage(a.role) || a.type != Type::kNone;
+    if (!isSupplied(a.role) || (holdsSamples && !isReal(a.type))) {
+      throw UsageError(name + ": the tool cannot supply argument " + a.name + " (" +
+                       registry::nameOf(a.role) + " " + registry::nameOf(a.type) + ")");
+    }
+  }
+  if (count(f, registry::isWritten) != 1) {
+    throw UsageError(name + ": the tool can only call functions that write one image");
+  }
+}
+
+// Whether an option must be given, by its name.
+std::map<std::string, bool> acceptedOptions(const Function& f) {
+  std::map<std::string, bool> accepted = {{"-o", true}, {"--roi", false}};
+  if (count(f, isInput) == 0) accepted["--size"] = false;
+  for (const Argument& a : f.arguments) {
+    if (a.role == Role::kMask) accepted["--mask"] = true;
+    if (a.role == Role::kSourceChannel) accepted["--srcChannel"] = false;
+    if (a.role == Role::kDestinationChannel) accepted["--dstChannel"] = false;
+    if (registry::isWritten(a.role) && a.role != Role::kInOut) accepted["--dst"] = false;
+    if (isParameter(a.role)) accepted[std::string("--") + a.name] = true;
+  }
+  return accepted;
+}
+
+void requireOptions(const Function& f, const Options& options) {
+  std::string name = f.name;
+  std::map<std::string, bool> accepted = acceptedOptions(f);
+  for (const auto& [option, value] : options.values) {
+    if (accepted.count(option)) continue;
+    std::string list;
+    for (const auto& [known, required] : accepted) list += " " + known;
+    throw UsageError(name + " takes no option " + option + "; it takes" + list);
+  }
+  for (const auto& [option, required] : accepted) {
+    if (required && !options.find(option)) throw UsageError(name + " needs option " + option);
+  }
+  if (options.find("--size") && options.find("--dst")) {
+    throw UsageError("--size and --dst exclude each other; --roi picks a part of an image");
+  }
+  std::size_t inputs = count(f, isInput);
+  if (options.files.size() != inputs) {
+    throw UsageError(name + " needs " + std::to_string(inputs) + " input file(s), got " +
+                     std::to_string(options.files.size()));
+  }
+}
+
+class Run {
+ public:
+  Run(const Function& f, const Options& options)
+      : function_(f), options_(options), images_(f.arguments.size) {}
+
+  int operator()() {
+    loadInputs();
+    makeDestination();
+    chooseRegion();
+    std::vector<Value> values;
+    for (std::size_t i = 0; i < images_.size(); ++i) values.push_back(valueOf(i));
+    KelStatus status = function_(values.data()).status;
+    if (status >= 0) writePng(*options_.find("-o"), output_->toPng());
+    std::printf("%s (%d)\n", registry::statusName(status), static_cast<int>(status));
+    return status >= 0 ? 0 : 1;
+  }
+
+ private:
+  struct Image {
+    Raster raster;
+    std::string file;  // for messages
+  };
+
+  void loadInputs() {
+    auto file = options_.files.begin();
+    for (std::size_t i = 0; i < images_.size(); ++i) {
+      const Argument& a = function_.arguments[i];
+      if (isInput(a.role)) {
+        load(i, *file++);
+        if (!frame_.width) frame_ = {images_[i]->raster.width(), images_[i]->raster.height()};
+        if (a.role == Role::kInOut) output_ = &images_[i]->raster;
+      } else if (a.role == Role::kMask) {
+        const std::string& mask = *options_.find("--mask");
+        images_[i] = Image{makeMask(readPng(mask)), mask};
+      }
+    }
+  }
+
+  void load(std::size_t i, const std::string& file) {
+    const Argument& a = function_.arguments[i];
+    images_[i] = Image{Raster(a.type, a.layout, readPng(file)), file};
+  }
+
+  // The region without --roi: the first input's size, else that of --dst, else --size.
+  void makeDestination() {
+    for (std::size_t i = 0; i < images_.size(); ++i) {
+      const Argument& a = function_.arguments[i];
+      if (!registry::isWritten(a.role) || a.role == Role::kInOut) continue;
+      if (const std::string* file = options_.find("--dst")) {
+        load(i, *file);
+        if (!frame_.width) frame_ = {images_[i]->raster.width(), images_[i]->raster.height()};
+      } else {
+        if (!frame_.width) frame_ = sizeOption();
+        images_[i] = Image{Raster(a.type, a.layout, frame_.width, frame_.height), "the result"};
+      }
+      output_ = &images_[i]->raster;
+    }
+  }
+
+  KeliSize sizeOption() const {
+    const std::string* text = options_.find("--size");
+    if (!text) throw UsageError(std::string(function_.name) + " needs --size WxH or --dst FILE");
+    std::vector<Value> n = parseNumbers("--size", *text, Type::k32s, 2, 'x');
+    if (n[0].i < 1 || n[1].i < 1) throw UsageError("--size: " + *text + " is empty");
+    if (n[0].i * n[1].i > kMaxPixels) throw UsageError("--size: " + *text + " is too large");
+    return {static_cast<int>(n[0].i), static_cast<int>(n[1].i)};
+  }
+
+  void chooseRegion() {
+    region_ = {0, 0, frame_.width, frame_.height};
+    if (const std::string* text = options_.find("--roi")) {
+      std::vector<Value> n = parseNumbers("--roi", *text, Type::k32s, 4);
+      region_ = {static_cast<int>(n[0].i), static_cast<int>(n[1].i), static_cast<int>(n[2].i),
+                 static_cast<int>(n[3].i)};
+      if (region_.width < 1 || region_.height < 1) {
+        throw UsageError("--roi: " + *text + " is empty");
+      }
+    }
+    for (const std::optional<Image>& image : images_) {
+      if (image) requireRegionInside(*image);
+    }
+  }
+
+  void requireRegionInside(const Image& image) const {
+    const KeliRect& r = region_;
+    int width = image.raster.width(), height = image.raster.height();
+    if (r.x >= 0 && r.y >= 0 && r.width <= width && r.height <= height && r.x <= width - r.width &&
+        r.y <= height - r.height) {
+      return;
+    }
+    throw UsageError("the region of " + sizeText(r.width, r.height) + " at (" +
+                     std::to_string(r.x) + ", " + std::to_string(r.y) + ") leaves " + image.file +
+                     ", which has " + sizeText(width, height));
+  }
+
+  Value valueOf(std::size_t i) {
+    const Argument& a = function_.arguments[i];
+    Value value{};
+    if (images_[i]) {
+      Raster& raster = images_[i]->raster;
+      step_ = raster.step();
+      value.p = raster.argument(region_.x, region_.y, channelOf(a));
+    } else if (a.role == Role::kStep) {
+      value.i = step_;
+    } else if (a.role == Role::kRegion) {
+      value.size = {region_.width, region_.height};
+    } else {
+      value = numbersOf(a);
+    }
+    return value;
+  }
+
+  int channelOf(const Argument& a) const {
+    const char* option = a.role == Role::kSourceChannel        ? "--srcChannel"
+                         : a.role == Role::kDestinationChannel ? "--dstChannel"
+                                                               : nullptr;
+    const std::string* text = option ? options_.find(option) : nullptr;
+    if (!text) return 0;
+    std::int64_t channel = parseNumbers(option, *text, Type::k32s, 1)[0].i;
+    if (channel < 0 || channel >= storedChannels(a.layout)) {
+      throw UsageError(std::string(option) + ": " + *text + " is out of range");
+    }
+    return static_cast<int>(channel);
+  }
+
+  // A number, or an array of them in memory that lives until the call.
+  Value numbersOf(const Argument& a) {
+    std::string option = std::string("--") + a.name;
+    std::vector<Value> numbers =
+        parseNumbers(option, *options_.find(option), numberType(a), a.length ? a.length : 1);
+    if (!a.length) return numbers[0];
+    Value value{};
+    withSampleType(numberType(a), [&](auto sample) {
+      std::vector<unsigned char>& bytes = arrays_.emplace_back();
+      for (const Value& number : numbers) {
+        if constexpr (std::is_floating_point_v<decltype(sample)>) {
+          sample = static_cast<decltype(sample)>(number.f);
+        } else {
+          sample = static_cast<decltype(sample)>(number.i);
+        }
+        const auto* begin = reinterpret_cast<const unsigned char*>(&sample);
+        bytes.insert(bytes.end(), begin, begin + sizeof sample);
+      }
+      value.p = bytes.data();
+    });
+    return value;
+  }
+
+  const Function& function_;
+  const Options& options_;
+  std::vector<std::optional<Image>> images_;  // one for each argument that is an image
+  std::deque<std::vector<unsigned char>> arrays_;
+  Raster* output_ = nullptr;
+  KeliSize frame_{};
+  KeliRect region_{};
+  int step_ = 0;  // of the last image in the list
+};
+
+}  // namespace
+
+int runFunction(const Function& function, const std::vector<std::string>& words) {
+  requireCallable(function);
+  Options options = parseOptions(words);
+  requireOptions(function, options);
+  return Run(function, options)();
+}
+
+}  // namespace keli::tool
