@@ -34,7 +34,8 @@ struct SwapChoice {
 
   explicit SwapChoice(const int* order) {
     for (std::size_t j = 0; j < 3 * sizeof(T); ++j) {
-      distance[j] = static_cast<std::uint8_t>(order[j / sizeof(T)] * static_cast<int>(sizeof(T)));
+      distance[j] =
+          static_cast<std::uint8_t>(load(order + j / sizeof(T)) * static_cast<int>(sizeof(T)));
     }
   }
 

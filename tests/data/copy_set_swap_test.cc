@@ -53,8 +53,11 @@ void define(const TestCall& call, KeliSize size) {
           std::uint8_t scalar[4];
           std::memcpy(pixel[k], constantOf(call, constant, k, scalar), dst.sampleBytes());
         } else {
-          const int from =
-              order != TestCall::npos ? static_cast<const int*>(call.values[order].p)[k] : k;
+          int from = k;
+          if (order != TestCall::npos) {
+            const auto* entries = static_cast<const std::uint8_t*>(call.values[order].p);
+            std::memcpy(&from, entries + k * sizeof(int), sizeof(int));
+          }
           std::memcpy(pixel[k], ImageView(call, source).at(x, y, from), dst.sampleBytes());
         }
       }
