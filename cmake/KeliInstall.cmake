@@ -14,9 +14,10 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/keliConfig.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/keliConfigVersion.cmake
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/keli)
 
+file(RELATIVE_PATH KELI_PC_TO_PREFIX /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 configure_file(cmake/keli.pc.in keli.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/keli.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
-if(KELI_BUILD_TOOL)
+if(TARGET keli_tool)
   install(TARGETS keli_tool DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()

@@ -20,11 +20,11 @@ struct BySize {
 }  // namespace keli
 
 // Initialises a BySize from a template over the type of a sample, with further template arguments.
-#define KELI_BY_SIZE(kernel, ...)                                                      \
-  {                                                                                    \
-    {                                                                                  \
-      kernel<std::uint8_t __VA_OPT__(, ) __VA_ARGS__>,                                 \
-          kernel<std::uint16_t __VA_OPT__(, ) __VA_ARGS__>,                            \
-          kernel<std::uint32_t __VA_OPT__(, ) __VA_ARGS__>                             \
-    }                                                                                  \
+#define KELI_BY_SIZE(kernel, ...)                           \
+  {                                                         \
+    {                                                       \
+      kernel<std::uint8_t __VA_OPT__(, ) __VA_ARGS__>,      \
+          kernel<std::uint16_t __VA_OPT__(, ) __VA_ARGS__>, \
+          kernel<std::uint32_t __VA_OPT__(, ) __VA_ARGS__>  \
+    }                                                       \
   }

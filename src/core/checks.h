@@ -1,6 +1,8 @@
-// The argument checks. Each is true for bad arguments; the tables in api/ say which checks a function
-// makes, in which order, and which status each returns.
+// The argument checks. Each is true for bad arguments; the tables in api/ say which checks a
+// function makes, in which order, and which status each returns.
 #pragma once
+
+#include <cstring>
 
 #include "core/types.h"
 
@@ -26,8 +28,11 @@ inline bool anyBadStep(Steps... steps) {
   return (... || (steps < 1));
 }
 
-inline bool badChannelOrder(const int order[3]) {
-  return (order[0] | order[1] | order[2]) < 0 || order[0] > 2 || order[1] > 2 || order[2] > 2;
+// Arrays stand at any address, as images do.
+inline bool badChannelOrder(const int* order) {
+  int o[3];
+  std::memcpy(o, order, sizeof(o));
+  return (o[0] | o[1] | o[2]) < 0 || o[0] > 2 || o[1] > 2 || o[2] > 2;
 }
 
 }  // namespace keli

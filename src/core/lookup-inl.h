@@ -12,8 +12,8 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
-// Keep as in map-inl.h. Eight samples are read at once, and their results written after that, so the
-// driver works in place.
+// Keep as in map-inl.h. Eight samples are read at once, and their results written after that, so
+// the driver works in place.
 template <class TD, class Keep, class Table>
 HWY_INLINE void lookupRow(const Table& table, const std::uint8_t* src, TD* dst, std::size_t n) {
   std::size_t i = 0;
@@ -23,7 +23,8 @@ HWY_INLINE void lookupRow(const Table& table, const std::uint8_t* src, TD* dst, 
     unrolled<8>([&](auto k) HWY_ATTR {
       // The cycles of Keep are 1, 4 or, where the phase is not fixed, 3 samples long.
       const std::size_t phase = Keep::kPeriod == 3 ? (i + k) % 3 : k % Keep::kPeriod;
-      if (Keep::written(phase)) store<TD>(table[static_cast<std::uint8_t>(eight >> (8 * k))], dst + i + k);
+      if (Keep::written(phase))
+        store<TD>(table[static_cast<std::uint8_t>(eight >> (8 * k))], dst + i + k);
     });
   }
   for (; i < n; ++i) {

@@ -3,9 +3,9 @@
 // An operation (Op) has
 //   kPeriod                 length of the cycle of its constants: 1, or the number of channels
 //   kUnroll                 vectors in flight, a multiple of the cycle where that is 3
-//   at(d, phase)            what a vector that starts at that phase of the cycle needs, loop-invariant
-//   vector(d, at, a...)     the vector form; d is the tag of the destination's samples
-//   scalar(phase, a...)     the definition; it alone runs on the scalar target
+//   at(d, phase)            what a vector that starts at that phase of the cycle needs,
+//   loop-invariant vector(d, at, a...)     the vector form; d is the tag of the destination's
+//   samples scalar(phase, a...)     the definition; it alone runs on the scalar target
 // A keeper (Keep) tells which destination samples are written: all, or the first kUsed of every
 // kPeriod; the row then ends with the last sample written, and nothing after it is touched.
 //

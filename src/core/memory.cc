@@ -18,7 +18,8 @@ void* allocateAligned(std::size_t count) {
   if (raw == nullptr) return nullptr;
   const std::uintptr_t first = reinterpret_cast<std::uintptr_t>(raw) + sizeof(void*);
   const std::uintptr_t aligned = (first + kAlignment - 1) / kAlignment * kAlignment;
-  unsigned char* block = static_cast<unsigned char*>(raw) + (aligned - reinterpret_cast<std::uintptr_t>(raw));
+  unsigned char* block =
+      static_cast<unsigned char*>(raw) + (aligned - reinterpret_cast<std::uintptr_t>(raw));
   std::memcpy(block - sizeof(void*), &raw, sizeof(void*));
   return block;
 }

@@ -17,7 +17,8 @@ void* allocateAligned(std::size_t count);
 // Releases such a block; null is ignored.
 void freeImage(void* ptr);
 
-// step is what the rows need, rounded up to kAlignment. See keliMalloc_8u_C1 in keli.h for the rest.
+// step is what the rows need, rounded up to kAlignment. See keliMalloc_8u_C1 in keli.h for the
+// rest.
 void* mallocRows(int width, int height, std::int64_t bytesPerPixel, int planes, int* stepBytes);
 
 template <class T, Layout kLayout>

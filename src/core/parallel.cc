@@ -1,8 +1,8 @@
 // The parallel frame over OpenMP.
 //
-// A process forked after a team has run inherits the runtime's idea of the team but not its threads,
-// and some runtimes then wait for them forever. So a child of a process that has had a team runs its
-// rows on the calling thread; results are the same.
+// A process forked after a team has run inherits the runtime's idea of the team but not its
+// threads, and some runtimes then wait for them forever. So a child of a process that has had a
+// team runs its rows on the calling thread; results are the same.
 #include "core/parallel.h"
 
 #include <omp.h>
@@ -44,11 +44,14 @@ RowBlock blockOf(Split split, int rows, int thread, int team) {
 
 int teamSize(int rows, std::size_t bytes) {
   if (bytes < 2 * kBytesPerThread || omp_in_parallel() != 0) return 1;
-  const std::size_t most = std::min<std::size_t>(static_cast<std::size_t>(rows), bytes / kBytesPerThread);
-  return static_cast<int>(std::min<std::size_t>(most, static_cast<std::size_t>(omp_get_max_threads())));
+  const std::size_t most =
+      std::min<std::size_t>(static_cast<std::size_t>(rows), bytes / kBytesPerThread);
+  return static_cast<int>(
+      std::min<std::size_t>(most, static_cast<std::size_t>(omp_get_max_threads())));
 }
 
-KelStatus runTeam(Split split, int rows, int team, std::size_t scratchPerThread, const TeamTask& task) {
+KelStatus runTeam(Split split, int rows, int team, std::size_t scratchPerThread,
+                  const TeamTask& task) {
   if (team > 1 && !mayFork()) team = 1;
   // Slices start on separate cache lines.
   const std::size_t slice = (scratchPerThread + 63) / 64 * 64;

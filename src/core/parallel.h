@@ -1,7 +1,8 @@
-// The parallel frame: runs the rows of a region on a team of threads. All of OpenMP is in parallel.cc.
+// The parallel frame: runs the rows of a region on a team of threads. All of OpenMP is in
+// parallel.cc.
 //
-// Every split covers rows 0 .. rows - 1 once, each thread with one contiguous block of whole rows, so
-// no result may depend on it beyond what the function promises.
+// Every split covers rows 0 .. rows - 1 once, each thread with one contiguous block of whole rows,
+// so no result may depend on it beyond what the function promises.
 #pragma once
 
 #include <cstddef>
@@ -31,9 +32,10 @@ struct TeamTask {
 int teamSize(int rows, std::size_t bytes);
 
 // Runs the task on a team of at most `team` threads; a team of one runs on the calling thread. When
-// scratchPerThread is not 0, one block for the team is allocated first and sliced by thread number; if
-// that fails, nothing is run and the result is kelStatusNoMemory.
-KelStatus runTeam(Split split, int rows, int team, std::size_t scratchPerThread, const TeamTask& task);
+// scratchPerThread is not 0, one block for the team is allocated first and sliced by thread number;
+// if that fails, nothing is run and the result is kelStatusNoMemory.
+KelStatus runTeam(Split split, int rows, int team, std::size_t scratchPerThread,
+                  const TeamTask& task);
 
 // The same with a callable: body(const RowBlock&), called by threads at once.
 template <class Body>

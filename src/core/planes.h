@@ -41,7 +41,8 @@ inline void setPlanes(Byte* (&planes)[4], Image image) {
 }
 
 template <Layout kFrom, Layout kTo, class TS, class TD, class Source, class Destination>
-inline PlanesBand makePlanesBand(Source src, int srcStep, Destination dst, int dstStep, KeliSize size) {
+inline PlanesBand makePlanesBand(Source src, int srcStep, Destination dst, int dstStep,
+                                 KeliSize size) {
   PlanesBand b = {};
   setPlanes<kFrom>(b.src, src);
   setPlanes<kTo>(b.dst, dst);

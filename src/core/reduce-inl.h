@@ -2,14 +2,14 @@
 //
 // An operation (Op) has
 //   kPeriod                    length of the cycle of channels that are kept apart
-//   kUnroll                    accumulators, a multiple of kPeriod where a vector is not whole cycles
-//   tag()                      of the vectors it takes
-//   neutral(s)                 a sample of source s that changes nothing (with the others' neutral ones)
-//   add<u>(d, a...)            adds vectors to accumulator u; lane i of a vector that comes to it holds a
+//   kUnroll                    accumulators, a multiple of kPeriod where a vector is not whole
+//   cycles tag()                      of the vectors it takes neutral(s)                 a sample
+//   of source s that changes nothing (with the others' neutral ones) add<u>(d, a...) adds vectors
+//   to accumulator u; lane i of a vector that comes to it holds a
 //                              sample of the same channel whenever it comes
 //   scalar(phase, a...)        adds one sample of each source: the definition
-// A row's last vector is filled up with neutral samples. So each sample meets the accumulators once;
-// an operation whose result depends on the order of its sums is not for this driver.
+// A row's last vector is filled up with neutral samples. So each sample meets the accumulators
+// once; an operation whose result depends on the order of its sums is not for this driver.
 #if defined(KELI_CORE_REDUCE_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_CORE_REDUCE_INL_H_
 #undef KELI_CORE_REDUCE_INL_H_
@@ -58,7 +58,8 @@ struct ReduceRow {
         op.template add<u>(d, hn::LoadU(hn::Rebind<TS, D>(), src + i)...);
         i += kN;
       } else if (i < n) {
-        op.template add<u>(d, loadPadded(hn::Rebind<TS, D>(), src + i, n - i, op.template neutral<TS>(S))...);
+        op.template add<u>(
+            d, loadPadded(hn::Rebind<TS, D>(), src + i, n - i, op.template neutral<TS>(S))...);
         i = n;
       }
     });
@@ -76,13 +77,15 @@ struct ReduceRow {
 // Sources of a reduction: a band without destination.
 template <class TS, class Op>
 HWY_INLINE void reduceRows(const Band<1>& b, Op& op) {
-  for (std::size_t y = 0; y < b.rows; ++y) ReduceRow<Op, TS>::run(op, b.n, b.template srcRow<TS>(0, y));
+  for (std::size_t y = 0; y < b.rows; ++y)
+    ReduceRow<Op, TS>::run(op, b.n, b.template srcRow<TS>(0, y));
 }
 
 template <class TS1, class TS2, class Op>
 HWY_INLINE void reduceRows(const Band<2>& b, Op& op) {
   for (std::size_t y = 0; y < b.rows; ++y) {
-    ReduceRow<Op, TS1, TS2>::run(op, b.n, b.template srcRow<TS1>(0, y), b.template srcRow<TS2>(1, y));
+    ReduceRow<Op, TS1, TS2>::run(op, b.n, b.template srcRow<TS1>(0, y),
+                                 b.template srcRow<TS2>(1, y));
   }
 }
 

@@ -1,14 +1,16 @@
 // Row driver of operations that only move samples: every destination byte of a group of pixels is a
 // fixed source byte of the same group (Map), whatever the channels and their type.
 //
-// A destination vector is put together from windows of 16 source bytes for each of its 128-bit blocks:
-// one byte shuffle for each window, then or. Windows never leave the bytes of the pixels at hand, so
-// nothing outside the row is read, and a step loads all before it stores, so it works in place.
+// A destination vector is put together from windows of 16 source bytes for each of its 128-bit
+// blocks: one byte shuffle for each window, then or. Windows never leave the bytes of the pixels at
+// hand, so nothing outside the row is read, and a step loads all before it stores, so it works in
+// place.
 //
 // A Map has
 //   kSrc, kDst       bytes of a pixel in source and destination
 //   from(j)          the source byte of destination byte j of a pixel
-//   kSpan            extra source bytes of the pixel that a choice made at run time may need: [from(j)
+//   kSpan            extra source bytes of the pixel that a choice made at run time may need:
+//   [from(j)
 //                    rounded down to kSpan, + kSpan) must be covered; 1 where from(j) is all
 #if defined(KELI_CORE_SHUFFLE_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_CORE_SHUFFLE_INL_H_
@@ -45,11 +47,12 @@ struct ShufflePlan {
     return j / Map::kDst * Map::kSrc + Map::from(j % Map::kDst);
   }
 
-  // Start of window w of the 16 destination bytes from first on. Windows follow one another from the
-  // lowest byte needed, and are moved back where they would pass the end of the source.
+  // Start of window w of the 16 destination bytes from first on. Windows follow one another from
+  // the lowest byte needed, and are moved back where they would pass the end of the source.
   static constexpr std::size_t window(std::size_t first, std::size_t w) {
     std::size_t low = kSrcBytes;
-    for (std::size_t j = first; j < first + 16; ++j) low = std::min(low, from(j) / Map::kSpan * Map::kSpan);
+    for (std::size_t j = first; j < first + 16; ++j)
+      low = std::min(low, from(j) / Map::kSpan * Map::kSpan);
     return std::min(low + 16 * w, kSrcBytes - 16);
   }
 
@@ -65,7 +68,8 @@ struct ShufflePlan {
 
   static constexpr std::size_t windows() {
     std::size_t most = 1;
-    for (std::size_t first = 0; first < kVectors * kN; first += 16) most = std::max(most, windowsOf(first));
+    for (std::size_t first = 0; first < kVectors * kN; first += 16)
+      most = std::max(most, windowsOf(first));
     return most;
   }
 
@@ -76,7 +80,8 @@ struct ShufflePlan {
   static constexpr std::uint8_t index(std::size_t j, std::size_t w) {
     const std::size_t start = window(j / 16 * 16, w);
     const std::size_t source = from(j);
-    return source >= start && source < start + 16 ? static_cast<std::uint8_t>(source - start) : 0x80;
+    return source >= start && source < start + 16 ? static_cast<std::uint8_t>(source - start)
+                                                  : 0x80;
   }
 
   using Indices = std::array<std::uint8_t, kN>;
@@ -115,9 +120,8 @@ struct ShuffleIndices {
   static HWY_INLINE ShuffleIndices fixed() {
     ShuffleIndices indices;
     unrolled<Plan::kVectors>([&](auto v) HWY_ATTR {
-      unrolled<Plan::kWindows>([&](auto w) HWY_ATTR {
-        indices.of[v][w] = hn::LoadU(D(), Plan::kIndices[v][w].data());
-      });
+      unrolled<Plan::kWindows>(
+          [&](auto w) HWY_ATTR { indices.of[v][w] = hn::LoadU(D(), Plan::kIndices[v][w].data()); });
     });
     return indices;
   }
@@ -125,7 +129,8 @@ struct ShuffleIndices {
 
 // Vector v of the step whose source begins at src.
 template <std::size_t v, class Map, class D>
-HWY_INLINE hn::Vec<D> shuffled(D d, const std::uint8_t* src, const ShuffleIndices<Map, D>& indices) {
+HWY_INLINE hn::Vec<D> shuffled(D d, const std::uint8_t* src,
+                               const ShuffleIndices<Map, D>& indices) {
   constexpr std::size_t kN = hn::MaxLanes(D());
   using Plan = ShufflePlan<Map, kN>;
   constexpr std::size_t kLow = v * kN;

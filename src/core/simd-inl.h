@@ -61,8 +61,8 @@ HWY_INLINE void unrolled(F&& f) {
   unrolledImpl(static_cast<F&&>(f), std::make_index_sequence<kCount>{});
 }
 
-// All bits of the samples whose position in a cycle of kPeriod is below kUsed, long enough to load a
-// vector from any phase.
+// All bits of the samples whose position in a cycle of kPeriod is below kUsed, long enough to load
+// a vector from any phase.
 template <class T, std::size_t kPeriod, std::size_t kUsed>
 struct CyclePattern {
   using Bits = hwy::MakeUnsigned<T>;
@@ -70,7 +70,8 @@ struct CyclePattern {
 
   static constexpr std::array<Bits, kSize> make() {
     std::array<Bits, kSize> a{};
-    for (std::size_t i = 0; i < kSize; ++i) a[i] = i % kPeriod < kUsed ? static_cast<Bits>(~Bits{0}) : Bits{0};
+    for (std::size_t i = 0; i < kSize; ++i)
+      a[i] = i % kPeriod < kUsed ? static_cast<Bits>(~Bits{0}) : Bits{0};
     return a;
   }
 

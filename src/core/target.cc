@@ -1,7 +1,7 @@
 // Detection of the processor's SIMD targets.
 //
-// The requirements of a target are those of the instruction sets that its code is compiled with (see
-// HWY_TARGET_STR in hwy/ops/set_macros-inl.h). Detecting them here keeps the library free of a
+// The requirements of a target are those of the instruction sets that its code is compiled with
+// (see HWY_TARGET_STR in hwy/ops/set_macros-inl.h). Detecting them here keeps the library free of a
 // run-time dependence on libhwy.
 #include "core/target.h"
 

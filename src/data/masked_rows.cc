@@ -27,8 +27,9 @@ struct CopySource {
 template <std::size_t kPixel, std::size_t kUsed = kPixel>
 void ownCopyMasked(const Band<2>& b) {
   for (std::size_t y = 0; y < b.rows; ++y) {
-    Masked<kPixel, kUsed>::row(b.srcRow<std::uint8_t>(1, y), CopySource{b.srcRow<std::uint8_t>(0, y)},
-                               b.dstRow<std::uint8_t>(y), b.n);
+    Masked<kPixel, kUsed>::row(b.srcRow<std::uint8_t>(1, y),
+                               CopySource{b.srcRow<std::uint8_t>(0, y)}, b.dstRow<std::uint8_t>(y),
+                               b.n);
   }
 }
 
@@ -52,11 +53,10 @@ void ownSetMasked(const Band<1>& b, const std::uint8_t* pixel) {
   }
 }
 
-#define KELI_BY_PIXEL(kernel)                                                              \
-  {                                                                                        \
-    nullptr, kernel<1>, kernel<2>, kernel<3>, kernel<4>, nullptr, kernel<6>, nullptr,      \
-        kernel<8>, nullptr, nullptr, nullptr, kernel<12>, nullptr, nullptr, nullptr,       \
-        kernel<16>                                                                         \
+#define KELI_BY_PIXEL(kernel)                                                                    \
+  {                                                                                              \
+    nullptr, kernel<1>, kernel<2>, kernel<3>, kernel<4>, nullptr, kernel<6>, nullptr, kernel<8>, \
+        nullptr, nullptr, nullptr, kernel<12>, nullptr, nullptr, nullptr, kernel<16>             \
   }
 
 const data::MaskedRows kMaskedRows = {

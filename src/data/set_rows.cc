@@ -39,12 +39,9 @@ void ownSet(const Band<0>& b, const std::uint8_t* pixel) {
 }
 
 const data::SetRows kSetRows = {
-    KELI_BY_SIZE(ownSet, 1, KeepNone),
-    KELI_BY_SIZE(ownSet, 3, KeepNone),
-    KELI_BY_SIZE(ownSet, 4, KeepNone),
-    KELI_BY_SIZE(ownSet, 4, KeepOthers<4, 3>),
-    KELI_BY_SIZE(ownSet, 3, KeepOthers<3, 1>),
-    KELI_BY_SIZE(ownSet, 4, KeepOthers<4, 1>),
+    KELI_BY_SIZE(ownSet, 1, KeepNone),         KELI_BY_SIZE(ownSet, 3, KeepNone),
+    KELI_BY_SIZE(ownSet, 4, KeepNone),         KELI_BY_SIZE(ownSet, 4, KeepOthers<4, 3>),
+    KELI_BY_SIZE(ownSet, 3, KeepOthers<3, 1>), KELI_BY_SIZE(ownSet, 4, KeepOthers<4, 1>),
 };
 
 }  // namespace keli::HWY_NAMESPACE

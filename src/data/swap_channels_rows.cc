@@ -14,7 +14,8 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
-// Describes the exchange with channel 0 in the place of each: which one it is, is known at run time.
+// Describes the exchange with channel 0 in the place of each: which one it is, is known at run
+// time.
 template <class T, std::size_t kChannels>
 struct SwapMap {
   static constexpr std::size_t kSrc = kChannels * sizeof(T);
@@ -34,14 +35,15 @@ struct SwapChoice {
 
   explicit SwapChoice(const int* order) {
     for (std::size_t j = 0; j < 3 * sizeof(T); ++j) {
-      distance[j] = static_cast<std::uint8_t>(order[j / sizeof(T)] * static_cast<int>(sizeof(T)));
+      distance[j] =
+          static_cast<std::uint8_t>(load(order + j / sizeof(T)) * static_cast<int>(sizeof(T)));
     }
   }
 
   std::size_t from(std::size_t j) const { return Map::from(j) + distance[j]; }
 
-  // The distances added to the indices that the Map has for channel 0, and 0x80 for what is not in the
-  // window; those indices lie within a byte's signed range, as windows are some pixels long.
+  // The distances added to the indices that the Map has for channel 0, and 0x80 for what is not in
+  // the window; those indices lie within a byte's signed range, as windows are some pixels long.
   template <class D>
   HWY_INLINE ShuffleIndices<Map, D> indices(D d) const {
     constexpr std::size_t kN = hn::MaxLanes(D());
@@ -96,7 +98,8 @@ struct SwapChoice {
         const std::size_t j = v * kN + i;
         all[v].inPixel[i] = static_cast<std::uint8_t>(j % Map::kDst);
         for (std::size_t w = 0; w < Plan::kWindows; ++w) {
-          all[v].inWindow[w][i] = static_cast<std::uint8_t>(Plan::from(j) - Plan::window(j / 16 * 16, w));
+          all[v].inWindow[w][i] =
+              static_cast<std::uint8_t>(Plan::from(j) - Plan::window(j / 16 * 16, w));
         }
       }
     }

@@ -9,8 +9,9 @@ struct TypeInfo {
   std::size_t bytes;
 };
 
-constexpr TypeInfo kTypes[] = {{"", 0},   {"8u", 1},  {"8s", 1},  {"16u", 2},  {"16s", 2},  {"32s", 4},
-                               {"64s", 8}, {"32f", 4}, {"64f", 8}, {"16sc", 4}, {"32sc", 8}, {"32fc", 8}};
+constexpr TypeInfo kTypes[] = {{"", 0},    {"8u", 1},   {"8s", 1},   {"16u", 2},
+                               {"16s", 2}, {"32s", 4},  {"64s", 8},  {"32f", 4},
+                               {"64f", 8}, {"16sc", 4}, {"32sc", 8}, {"32fc", 8}};
 
 constexpr const char* kLayouts[] = {"C1", "C2", "C3", "C4", "AC4", "P2", "P3", "P4", "AP4"};
 

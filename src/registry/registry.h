@@ -13,11 +13,22 @@ namespace keli::registry {
 
 // Sample types by their codes; kNone for arguments that hold no samples.
 enum class Type : std::uint8_t {
-  kNone, k8u, k8s, k16u, k16s, k32s, k64s, k32f, k64f, k16sc, k32sc, k32fc
+  kNone,
+  k8u,
+  k8s,
+  k16u,
+  k16s,
+  k32s,
+  k64s,
+  k32f,
+  k64f,
+  k16sc,
+  k32sc,
+  k32fc
 };
 
-// What an argument is for. Roles with "Channel": the pointer addresses one channel of an interleaved
-// image, and only that channel takes part.
+// What an argument is for. Roles with "Channel": the pointer addresses one channel of an
+// interleaved image, and only that channel takes part.
 enum class Role : std::uint8_t {
   kSource,
   kSourceChannel,
@@ -25,16 +36,16 @@ enum class Role : std::uint8_t {
   kDestinationChannel,
   kInOut,
   kMask,
-  kStep,         // bytes between the rows of the image before it in the list
-  kRegion,       // KeliSize of all images
-  kConstant,     // a value or, for several channels, an array of them
-  kScalar,       // a value, whatever the layout
+  kStep,      // bytes between the rows of the image before it in the list
+  kRegion,    // KeliSize of all images
+  kConstant,  // a value or, for several channels, an array of them
+  kScalar,    // a value, whatever the layout
   kScaleFactor,
-  kOrder,        // three channel indexes
-  kExtent,       // a width or height
-  kStepOut,      // receives a step
-  kBlock,        // a block to release
-  kUnread,       // accepted and ignored
+  kOrder,    // three channel indexes
+  kExtent,   // a width or height
+  kStepOut,  // receives a step
+  kBlock,    // a block to release
+  kUnread,   // accepted and ignored
 };
 
 enum class Check : std::uint8_t { kNull, kSize, kStep, kValues, kOrder };

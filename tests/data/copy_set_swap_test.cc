@@ -12,23 +12,32 @@ using registry::Function;
 using registry::Role;
 
 // Bytes of channel k of the constant, wherever it stands.
-const std::uint8_t* constantOf(const TestCall& call, std::size_t argument, int k, std::uint8_t* scalar) {
+const std::uint8_t* constantOf(const TestCall& call, std::size_t argument, int k,
+                               std::uint8_t* scalar) {
   const Argument& a = call.function.arguments[argument];
   if (a.length != 0) {
-    return static_cast<const std::uint8_t*>(call.values[argument].p) + static_cast<std::size_t>(k) * registry::bytesOf(a.type);
+    return static_cast<const std::uint8_t*>(call.values[argument].p) +
+           static_cast<std::size_t>(k) * registry::bytesOf(a.type);
   }
   const Kel32f f = static_cast<Kel32f>(call.values[argument].f);
   const Kel16s s = static_cast<Kel16s>(call.values[argument].i);
   const Kel8u u = static_cast<Kel8u>(call.values[argument].i);
   switch (a.type) {
-    case registry::Type::k32f: std::memcpy(scalar, &f, sizeof(f)); break;
-    case registry::Type::k16s: std::memcpy(scalar, &s, sizeof(s)); break;
-    default: std::memcpy(scalar, &u, sizeof(u)); break;
+    case registry::Type::k32f:
+      std::memcpy(scalar, &f, sizeof(f));
+      break;
+    case registry::Type::k16s:
+      std::memcpy(scalar, &s, sizeof(s));
+      break;
+    default:
+      std::memcpy(scalar, &u, sizeof(u));
+      break;
   }
   return scalar;
 }
 
-// dst = the constant or the source, its channels in order or as dstOrder says, where the mask is set.
+// dst = the constant or the source, its channels in order or as dstOrder says, where the mask is
+// set.
 void define(const TestCall& call, KeliSize size) {
   const ImageView dst(call, call.written());
   const std::size_t mask = call.find(Role::kMask), order = call.find(Role::kOrder);
@@ -44,11 +53,16 @@ void define(const TestCall& call, KeliSize size) {
           std::uint8_t scalar[4];
           std::memcpy(pixel[k], constantOf(call, constant, k, scalar), dst.sampleBytes());
         } else {
-          const int from = order != TestCall::npos ? static_cast<const int*>(call.values[order].p)[k] : k;
+          int from = k;
+          if (order != TestCall::npos) {
+            const auto* entries = static_cast<const std::uint8_t*>(call.values[order].p);
+            std::memcpy(&from, entries + k * sizeof(int), sizeof(int));
+          }
           std::memcpy(pixel[k], ImageView(call, source).at(x, y, from), dst.sampleBytes());
         }
       }
-      for (int k = 0; k < dst.channels(); ++k) std::memcpy(dst.at(x, y, k), pixel[k], dst.sampleBytes());
+      for (int k = 0; k < dst.channels(); ++k)
+        std::memcpy(dst.at(x, y, k), pixel[k], dst.sampleBytes());
     }
   }
 }
@@ -70,7 +84,8 @@ TEST(Data, CopySetSwapChannelsAreTheirDefinitions) {
           ASSERT_EQ(call.run().status, kelStatusOk) << f.name;
           define(expected, {width, 3});
           ASSERT_EQ(call.samples(call.written()), expected.samples(expected.written()))
-              << f.name << " " << targetName(target) << " width " << width << " padding " << padding;
+              << f.name << " " << targetName(target) << " width " << width << " padding "
+              << padding;
         }
       }
     }

@@ -31,7 +31,9 @@ struct Invert : PlainOp<kVectors> {
   HWY_INLINE V vector(D, Nothing, V a) const {
     return hn::Not(a);
   }
-  std::uint8_t scalar(std::size_t, std::uint8_t a) const { return static_cast<std::uint8_t>(255 - a); }
+  std::uint8_t scalar(std::size_t, std::uint8_t a) const {
+    return static_cast<std::uint8_t>(255 - a);
+  }
 };
 
 template <class TD>
@@ -178,7 +180,9 @@ struct Gray {
   HWY_INLINE std::array<hn::Vec<D>, 1> vector(D, const In& in) const {
     return {hn::Add(hn::Add(in[0], in[1]), in[2])};
   }
-  std::array<float, 1> scalar(const std::array<float, 3>& in) const { return {in[0] + in[1] + in[2]}; }
+  std::array<float, 1> scalar(const std::array<float, 3>& in) const {
+    return {in[0] + in[1] + in[2]};
+  }
 };
 
 template <class TS, class TD, class Op, class Keep = KeepNone>

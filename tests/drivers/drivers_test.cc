@@ -54,11 +54,14 @@ class Rows {
   template <class T>
   T was(std::size_t y, std::size_t i) const {
     T v;
-    std::memcpy(&v, before_.data() + (data_ - arena_.begin()) + y * step_ + i * sizeof(T), sizeof(T));
+    std::memcpy(&v, before_.data() + (data_ - arena_.begin()) + y * step_ + i * sizeof(T),
+                sizeof(T));
     return v;
   }
   bool paddingKept() const {
-    return rowBytes_ == step_ || std::memcmp(data_ + rowBytes_, before_.data() + (data_ - arena_.begin()) + rowBytes_, step_ - rowBytes_) == 0;
+    return rowBytes_ == step_ ||
+           std::memcmp(data_ + rowBytes_, before_.data() + (data_ - arena_.begin()) + rowBytes_,
+                       step_ - rowBytes_) == 0;
   }
 
  private:
@@ -87,8 +90,8 @@ bool sameBits(T a, T b) {
 
 // Rows of whole cycles of channels, of which the first `used` are written.
 template <class TS, class TD, class Definition>
-void checkMap1(DriverRows::Map1 DriverRows::*kernel, std::size_t cycle, std::size_t used, bool inPlace,
-               Definition definition) {
+void checkMap1(DriverRows::Map1 DriverRows::*kernel, std::size_t cycle, std::size_t used,
+               bool inPlace, Definition definition) {
   forEachTargetLengthPlace([&](std::size_t length, std::size_t place) {
     const std::size_t n = (length + cycle - 1) / cycle * cycle;
     Rows src(n * sizeof(TS), place, runSeed() + n), dst(n * sizeof(TD), place, n);
@@ -115,9 +118,11 @@ TEST(Drivers, MapOfOneSource) {
   checkMap1<Kel8u, Kel8u>(&DriverRows::invert8uAC4, 4, 3, true, invert);
   checkMap1<Kel8u, Kel8u>(&DriverRows::invert8uOfC3, 3, 1, true, invert);
   checkMap1<Kel8u, Kel16s>(&DriverRows::widen8u16s, 1, 1, false, [](Kel8u a) { return Kel16s{a}; });
-  checkMap1<Kel16s, Kel32f>(&DriverRows::widen16s32f, 1, 1, false, [](Kel16s a) { return static_cast<Kel32f>(a); });
-  checkMap1<Kel16s, Kel8u>(&DriverRows::narrow16s8u, 1, 1, false,
-                           [](Kel16s a) { return static_cast<Kel8u>(a < 0 ? 0 : a > 255 ? 255 : a); });
+  checkMap1<Kel16s, Kel32f>(&DriverRows::widen16s32f, 1, 1, false,
+                            [](Kel16s a) { return static_cast<Kel32f>(a); });
+  checkMap1<Kel16s, Kel8u>(&DriverRows::narrow16s8u, 1, 1, false, [](Kel16s a) {
+    return static_cast<Kel8u>(a < 0 ? 0 : a > 255 ? 255 : a);
+  });
   checkMap1<Kel64f, Kel64f>(&DriverRows::negate64f, 1, 1, true, [](Kel64f a) { return -a; });
 }
 
@@ -128,7 +133,8 @@ void checkMap2(DriverRows::Map2 DriverRows::*kernel, Definition definition) {
     Rows a(n * sizeof(T), place, 1), b(n * sizeof(T), place, 2), dst(n * sizeof(T), place, 3);
     a.fillSmall<T>(runSeed());
     b.fillSmall<T>(runSeed() + 1);
-    (driverRows().*kernel)(makeBand(a.data(), a.step(), b.data(), b.step(), dst.data(), dst.step(), n, 2));
+    (driverRows().*
+     kernel)(makeBand(a.data(), a.step(), b.data(), b.step(), dst.data(), dst.step(), n, 2));
     std::vector<T> expected;
     for (std::size_t y = 0; y < 2; ++y) {
       for (std::size_t i = 0; i < n; ++i) {
@@ -136,19 +142,24 @@ void checkMap2(DriverRows::Map2 DriverRows::*kernel, Definition definition) {
         ASSERT_EQ(dst.get<T>(y, i), expected.back());
       }
     }
-    (driverRows().*kernel)(makeBand(a.data(), a.step(), b.data(), b.step(), b.data(), b.step(), n, 2));
-    for (std::size_t i = 0; i < 2 * n; ++i) ASSERT_EQ(b.get<T>(i / n, i % n), expected[i]) << "in place";
+    (driverRows().*
+     kernel)(makeBand(a.data(), a.step(), b.data(), b.step(), b.data(), b.step(), n, 2));
+    for (std::size_t i = 0; i < 2 * n; ++i)
+      ASSERT_EQ(b.get<T>(i / n, i % n), expected[i]) << "in place";
   });
 }
 
 TEST(Drivers, MapOfTwoSources) {
-  checkMap2<Kel8u>(&DriverRows::add8u, [](int a, int b) { return static_cast<Kel8u>(a + b > 255 ? 255 : a + b); });
+  checkMap2<Kel8u>(&DriverRows::add8u,
+                   [](int a, int b) { return static_cast<Kel8u>(a + b > 255 ? 255 : a + b); });
   checkMap2<Kel32f>(&DriverRows::add32f, [](Kel32f a, Kel32f b) { return a + b; });
 }
 
 template <class T>
-void checkMapC(DriverRows::MapC DriverRows::*kernel, std::size_t channels, std::int64_t least, std::int64_t most) {
-  const T values[4] = {static_cast<T>(3), static_cast<T>(50), static_cast<T>(100), static_cast<T>(7)};
+void checkMapC(DriverRows::MapC DriverRows::*kernel, std::size_t channels, std::int64_t least,
+               std::int64_t most) {
+  const T values[4] = {static_cast<T>(3), static_cast<T>(50), static_cast<T>(100),
+                       static_cast<T>(7)};
   T cycle[64 + 4];
   for (std::size_t i = 0; i < 68; ++i) cycle[i] = values[i % channels];
   forEachTargetLengthPlace([&](std::size_t length, std::size_t place) {
@@ -158,8 +169,10 @@ void checkMapC(DriverRows::MapC DriverRows::*kernel, std::size_t channels, std::
     (driverRows().*kernel)(makeBand(src.data(), src.step(), dst.data(), dst.step(), n, 2), cycle);
     for (std::size_t y = 0; y < 2; ++y) {
       for (std::size_t i = 0; i < n; ++i) {
-        const auto sum = static_cast<std::int64_t>(src.get<T>(y, i)) + static_cast<std::int64_t>(values[i % channels]);
-        ASSERT_EQ(static_cast<std::int64_t>(dst.get<T>(y, i)), std::min(std::max(sum, least), most));
+        const auto sum = static_cast<std::int64_t>(src.get<T>(y, i)) +
+                         static_cast<std::int64_t>(values[i % channels]);
+        ASSERT_EQ(static_cast<std::int64_t>(dst.get<T>(y, i)),
+                  std::min(std::max(sum, least), most));
       }
     }
   });
@@ -190,7 +203,9 @@ TEST(Drivers, Reduce) {
     ASSERT_EQ(driverRows().sum8uC1(band, sums), all);
     driverRows().sum8uC3(band, sums);
     for (int k = 0; k < 3; ++k) ASSERT_EQ(sums[k], channels[k]) << "channel " << k;
-    ASSERT_EQ(driverRows().sumDifferences8u(makeBand(a.data(), a.step(), b.data(), b.step(), nullptr, 0, n, 2)), differences);
+    ASSERT_EQ(driverRows().sumDifferences8u(
+                  makeBand(a.data(), a.step(), b.data(), b.step(), nullptr, 0, n, 2)),
+              differences);
   });
 }
 
@@ -217,12 +232,15 @@ void checkRotate(DriverRows::Planes DriverRows::*kernel) {
     (driverRows().*kernel)(band);
     for (std::size_t i = 0; i < 2 * n * 3; ++i) {
       const std::size_t y = i / 3 / n, x = i / 3 % n, k = i % 3, from = (k + 1) % 3;
-      const T expected = isPlanar(kFrom) ? src[from % kIn]->template get<T>(y, x) : src[0]->template get<T>(y, x * kInSamples + from);
-      const T result = isPlanar(kTo) ? dst[k % kOut]->template get<T>(y, x) : dst[0]->template get<T>(y, x * kOutSamples + k);
+      const T expected = isPlanar(kFrom) ? src[from % kIn]->template get<T>(y, x)
+                                         : src[0]->template get<T>(y, x * kInSamples + from);
+      const T result = isPlanar(kTo) ? dst[k % kOut]->template get<T>(y, x)
+                                     : dst[0]->template get<T>(y, x * kOutSamples + k);
       ASSERT_EQ(result, expected) << "channel " << k << " of pixel " << x << " of row " << y;
     }
     if (kOutSamples == 4) {
-      for (std::size_t x = 0; x < n; ++x) ASSERT_EQ(dst[0]->template get<T>(1, 4 * x + 3), dst[0]->template was<T>(1, 4 * x + 3));
+      for (std::size_t x = 0; x < n; ++x)
+        ASSERT_EQ(dst[0]->template get<T>(1, 4 * x + 3), dst[0]->template was<T>(1, 4 * x + 3));
     }
   });
 }
@@ -237,7 +255,8 @@ TEST(Drivers, PixelsOfThreeAndFourChannels) {
     src.fillSmall<Kel32f>(runSeed());
     driverRows().grayC3C1_32f({{src.data()}, {dst.data()}, src.step(), dst.step(), n, 2, false});
     for (std::size_t x = 0; x < n; ++x) {
-      ASSERT_EQ(dst.get<Kel32f>(1, x), src.get<Kel32f>(1, 3 * x) + src.get<Kel32f>(1, 3 * x + 1) + src.get<Kel32f>(1, 3 * x + 2));
+      ASSERT_EQ(dst.get<Kel32f>(1, x), src.get<Kel32f>(1, 3 * x) + src.get<Kel32f>(1, 3 * x + 1) +
+                                           src.get<Kel32f>(1, 3 * x + 2));
     }
   });
 }
@@ -252,15 +271,19 @@ TEST(Drivers, LookUp) {
   forEachTargetLengthPlace([&](std::size_t length, std::size_t place) {
     const std::size_t n = 4 * length;
     Rows src(n, place, runSeed()), dst(n, place, 2), wide(4 * n, place, 3);
-    const auto band = [&](const Rows& to) { return makeBand(src.data(), src.step(), to.data(), to.step(), n, 2); };
+    const auto band = [&](const Rows& to) {
+      return makeBand(src.data(), src.step(), to.data(), to.step(), n, 2);
+    };
     driverRows().lookup8u32f(band(wide), floats);
     driverRows().lookup8uAC4(band(dst), table);
     for (std::size_t i = 0; i < n; ++i) {
       ASSERT_EQ(wide.get<Kel32f>(1, i), floats[src.get<Kel8u>(1, i)]);
-      ASSERT_EQ(dst.get<Kel8u>(1, i), i % 4 == 3 ? dst.was<Kel8u>(1, i) : table[src.get<Kel8u>(1, i)]);
+      ASSERT_EQ(dst.get<Kel8u>(1, i),
+                i % 4 == 3 ? dst.was<Kel8u>(1, i) : table[src.get<Kel8u>(1, i)]);
     }
     driverRows().lookup8u(band(src), table);
-    for (std::size_t i = 0; i < n; ++i) ASSERT_EQ(src.get<Kel8u>(0, i), table[src.was<Kel8u>(0, i)]) << "in place";
+    for (std::size_t i = 0; i < n; ++i)
+      ASSERT_EQ(src.get<Kel8u>(0, i), table[src.was<Kel8u>(0, i)]) << "in place";
   });
 }
 

@@ -1,5 +1,5 @@
-// The order of argument checks, for every function of the registry: each argument made bad, alone and
-// in pairs, gives the code that the order demands, and no byte is written.
+// The order of argument checks, for every function of the registry: each argument made bad, alone
+// and in pairs, gives the code that the order demands, and no byte is written.
 #include <gtest/gtest.h>
 
 #include <climits>
@@ -29,14 +29,16 @@ const void* withNullPlane(const Value& planes, int count, int null) {
   static std::vector<std::unique_ptr<const void*[]>> kept;
   kept.push_back(std::make_unique<const void*[]>(4));
   for (int k = 0; k < count; ++k) {
-    kept.back()[static_cast<std::size_t>(k)] = k == null ? nullptr : static_cast<const void* const*>(planes.p)[k];
+    kept.back()[static_cast<std::size_t>(k)] =
+        k == null ? nullptr : static_cast<const void* const*>(planes.p)[k];
   }
   return kept.back().get();
 }
 
 std::vector<Fault> faultsOf(const TestCall& call) {
   std::vector<Fault> faults;
-  static constexpr int kBadOrders[][3] = {{3, 0, 0}, {0, -1, 0}, {0, 0, 3}, {INT_MIN, INT_MAX, 1}, {0, 1, -1}};
+  static constexpr int kBadOrders[][3] = {
+      {3, 0, 0}, {0, -1, 0}, {0, 0, 3}, {INT_MIN, INT_MAX, 1}, {0, 1, -1}};
   for (std::size_t i = 0; i < call.function.arguments.size; ++i) {
     const Argument& a = call.function.arguments[i];
     const auto add = [&](const char* what, auto set) {
@@ -47,7 +49,8 @@ std::vector<Fault> faultsOf(const TestCall& call) {
     if (isPointer(a)) add(" null", [](Value& v) { v.p = nullptr; });
     if (registry::isImage(a.role) && isPlanar(a.layout)) {
       for (int k = 0; k < usedChannels(a.layout); ++k) {
-        add(" with a null plane", [&](Value& v) { v.p = withNullPlane(v, usedChannels(a.layout), k); });
+        add(" with a null plane",
+            [&](Value& v) { v.p = withNullPlane(v, usedChannels(a.layout), k); });
       }
     }
     if (a.role == Role::kStep) {
@@ -102,7 +105,8 @@ bool fails(const TestCall& call, const std::vector<Value>& values, Check check, 
     case Check::kOrder:
       return anyOf(call, Role::kOrder, [&](std::size_t i) {
         const int* order = static_cast<const int*>(values[i].p);
-        return order[0] < 0 || order[0] > 2 || order[1] < 0 || order[1] > 2 || order[2] < 0 || order[2] > 2;
+        return order[0] < 0 || order[0] > 2 || order[1] < 0 || order[1] > 2 || order[2] < 0 ||
+               order[2] > 2;
       });
   }
   return false;
@@ -148,7 +152,8 @@ TEST(Checks, EveryFunctionReturnsTheFirstFailingCheck) {
         call.values[faults[j].argument] = faults[j].value;
         const KelStatus expected = expectedStatus(call, call.values);
         ASSERT_LT(expected, 0) << f.name << ": no check covers " << faults[i].what;
-        ASSERT_EQ(call.run().status, expected) << f.name << ": " << faults[i].what << ", " << faults[j].what;
+        ASSERT_EQ(call.run().status, expected)
+            << f.name << ": " << faults[i].what << ", " << faults[j].what;
         ++calls;
       }
     }
@@ -179,7 +184,8 @@ TEST(Checks, OrdersOfTheFamilies) {
   EXPECT_EQ(keliSwapChannels_8u_C3R(pixel, 3, pixel, 0, one, order), kelStatusBadStep);
   EXPECT_EQ(keliSwapChannels_8u_C3R(pixel, 3, pixel, 3, one, order), kelStatusBadChannelOrder);
   EXPECT_EQ(keliSwapChannels_8u_C3R(pixel, 3, pixel, 3, one, nullptr), kelStatusNullPointer);
-  EXPECT_EQ(keliDrawText_8u_C3R(nullptr, 0, nullptr, 0, none, nullptr, {0, 0}, nullptr, 0), kelStatusWarning);
+  EXPECT_EQ(keliDrawText_8u_C3R(nullptr, 0, nullptr, 0, none, nullptr, {0, 0}, nullptr, 0),
+            kelStatusWarning);
 }
 
 }  // namespace

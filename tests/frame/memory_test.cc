@@ -63,12 +63,14 @@ TEST(Memory, StepAddressAndSizeOfEveryAllocator) {
 TEST(Memory, RefusedRequests) {
   forEachAllocator([](const Function& f, std::int64_t pixel, int planes) {
     EXPECT_EQ(allocate(f, 4, 4, nullptr), nullptr) << f.name;
-    for (const auto& [width, height] : {std::pair{0, 1}, {1, 0}, {-1, 1}, {1, -1}, {INT_MIN, INT_MIN}}) {
+    for (const auto& [width, height] :
+         {std::pair{0, 1}, {1, 0}, {-1, 1}, {1, -1}, {INT_MIN, INT_MIN}}) {
       int step = -1;
       EXPECT_EQ(allocate(f, width, height, &step), nullptr) << f.name;
       EXPECT_EQ(step, 0) << f.name;
     }
-    // One row too many for 31 bits, sizes that are short again after 32 and 64 bits, and the largest.
+    // One row too many for 31 bits, sizes that are short again after 32 and 64 bits, and the
+    // largest.
     const int width = 1024;
     const std::int64_t row = (width * pixel + 31) / 32 * 32;
     const std::int64_t fits = INT_MAX / (row * planes);
@@ -76,12 +78,14 @@ TEST(Memory, RefusedRequests) {
     for (const std::int64_t height : {fits + 1, wraps, std::int64_t{INT_MAX}}) {
       if (height > INT_MAX) continue;
       int step = -1;
-      EXPECT_EQ(allocate(f, width, static_cast<int>(height), &step), nullptr) << f.name << " " << height;
+      EXPECT_EQ(allocate(f, width, static_cast<int>(height), &step), nullptr)
+          << f.name << " " << height;
       EXPECT_EQ(step, row) << f.name;
     }
     int step = -1;
     EXPECT_EQ(allocate(f, INT_MAX, INT_MAX, &step), nullptr) << f.name;
-    EXPECT_EQ(static_cast<std::uint32_t>(step), static_cast<std::uint32_t>((INT_MAX * pixel + 31) / 32 * 32));
+    EXPECT_EQ(static_cast<std::uint32_t>(step),
+              static_cast<std::uint32_t>((INT_MAX * pixel + 31) / 32 * 32));
   });
 }
 

@@ -29,7 +29,8 @@ TEST_P(Parallel, EveryRowOnceInContiguousBlocks) {
       const KelStatus status = core::runRows(GetParam(), rows, team, 0, [&](const RowBlock& block) {
         ++blocks;
         EXPECT_EQ(block.scratch, nullptr);
-        for (int y = block.first; y < block.first + block.count; ++y) ++seen[static_cast<std::size_t>(y)];
+        for (int y = block.first; y < block.first + block.count; ++y)
+          ++seen[static_cast<std::size_t>(y)];
       });
       EXPECT_EQ(status, kelStatusOk);
       EXPECT_LE(blocks, team);

@@ -1,5 +1,6 @@
-// What every function of the registry does to memory: nothing outside the region is read or written,
-// and the result does not depend on address, step, SIMD target, threads, or on being in place.
+// What every function of the registry does to memory: nothing outside the region is read or
+// written, and the result does not depend on address, step, SIMD target, threads, or on being in
+// place.
 #include <gtest/gtest.h>
 #include <omp.h>
 
@@ -36,7 +37,8 @@ struct Outcome {
 };
 
 // With the same samples and parameters for the same seed and size, whatever the geometry.
-Outcome outcomeOf(const Function& f, const Geometry& g, std::uint64_t seed, const Bytes* from = nullptr) {
+Outcome outcomeOf(const Function& f, const Geometry& g, std::uint64_t seed,
+                  const Bytes* from = nullptr) {
   TestCall call(f, g, seed);
   if (from != nullptr) call.setSamples(call.written(), *from);
   const KelStatus status = call.run().status;
@@ -53,8 +55,8 @@ std::vector<int> widths() {
 }
 
 constexpr Geometry kGeometries[] = {
-    {0, 3, 0, Place::kMiddle, 0}, {0, 3, 1, Place::kMiddle, 1},  {0, 2, 0, Place::kEnd, 0},
-    {0, 3, 7, Place::kEnd, 0},    {0, 2, 3, Place::kStart, 0},   {0, 1, 0, Place::kStart, 0},
+    {0, 3, 0, Place::kMiddle, 0},  {0, 3, 1, Place::kMiddle, 1}, {0, 2, 0, Place::kEnd, 0},
+    {0, 3, 7, Place::kEnd, 0},     {0, 2, 3, Place::kStart, 0},  {0, 1, 0, Place::kStart, 0},
     {0, 3, 32, Place::kMiddle, 3}, {0, 1, 0, Place::kEnd, 0},    {0, 2, 64, Place::kMiddle, 17},
 };
 
@@ -79,8 +81,8 @@ TEST(Region, SameResultAtEveryPlaceOnEveryTarget) {
             const Outcome o = outcomeOf(f, g, seed + static_cast<std::uint64_t>(width));
             ASSERT_EQ(o.status, expected.status) << f.name << " width " << width;
             ASSERT_EQ(o.samples, expected.samples)
-                << f.name << " " << targetName(target) << " " << width << "x" << height << " padding "
-                << g.padding << " offset " << g.offset;
+                << f.name << " " << targetName(target) << " " << width << "x" << height
+                << " padding " << g.padding << " offset " << g.offset;
           }
         }
       }
@@ -109,19 +111,21 @@ TEST(Region, InPlaceEqualsOutOfPlace) {
         const Geometry g = {width, 2, 5, Place::kMiddle, 1};
         TestCall inPlace(f, g, runSeed());
         TestCall separate(*plain, g, runSeed());
-        // The same parameters and sources, found by their roles; the last source of one is the image
-        // of the other.
+        // The same parameters and sources, found by their roles; the last source of one is the
+        // image of the other.
         for (std::size_t i = 0; i < f.arguments.size; ++i) {
           const Role role = f.arguments[i].role;
           const std::size_t there = separate.find(role);
           if (role == Role::kSource) separate.setSamples(there, inPlace.samples(i));
-          if (role != Role::kStep && !registry::isImage(role)) separate.values[there] = inPlace.values[i];
+          if (role != Role::kStep && !registry::isImage(role))
+            separate.values[there] = inPlace.values[i];
         }
         const std::size_t image = inPlace.find(Role::kInOut);
         separate.setSamples(separate.written(), inPlace.samples(image));
         separate.setSamples(separate.lastSource(), inPlace.samples(image));
         ASSERT_EQ(inPlace.run().status, separate.run().status) << f.name;
-        ASSERT_EQ(inPlace.samples(image), separate.samples(separate.written())) << f.name << " width " << width;
+        ASSERT_EQ(inPlace.samples(image), separate.samples(separate.written()))
+            << f.name << " width " << width;
 
         // The out-of-place form with its last source as destination.
         TestCall aliased(*plain, g, runSeed());
@@ -147,10 +151,12 @@ TEST(Region, InPlaceEqualsOutOfPlace) {
 Geometry manyThreads(const Function& f) {
   std::size_t pixel = 0;
   for (const auto& a : f.arguments) {
-    if (registry::isImage(a.role)) pixel += registry::bytesOf(a.type) * static_cast<std::size_t>(storedChannels(a.layout));
+    if (registry::isImage(a.role))
+      pixel += registry::bytesOf(a.type) * static_cast<std::size_t>(storedChannels(a.layout));
   }
   Geometry g = {64, 211, 3, Place::kMiddle, 0};
-  while (core::teamSize(g.height, pixel * static_cast<std::size_t>(g.width) * 211) < 7) g.width += 37;
+  while (core::teamSize(g.height, pixel * static_cast<std::size_t>(g.width) * 211) < 7)
+    g.width += 37;
   return g;
 }
 

@@ -11,9 +11,11 @@ namespace keli::test {
 class ImageView {
  public:
   // Of an image argument of a call; an argument that addresses one channel has that channel alone.
-  ImageView(const TestCall& call, std::size_t argument) : bytes_(registry::bytesOf(typeOf(call, argument))) {
+  ImageView(const TestCall& call, std::size_t argument)
+      : bytes_(registry::bytesOf(typeOf(call, argument))) {
     const registry::Argument& a = call.function.arguments[argument];
-    const bool channel = a.role == registry::Role::kSourceChannel || a.role == registry::Role::kDestinationChannel;
+    const bool channel =
+        a.role == registry::Role::kSourceChannel || a.role == registry::Role::kDestinationChannel;
     planar_ = isPlanar(a.layout);
     pixel_ = static_cast<std::size_t>(pixelSamples(a.layout));
     channels_ = channel ? 1 : usedChannels(a.layout);
@@ -26,7 +28,8 @@ class ImageView {
 
   std::uint8_t* at(int x, int y, int k) const {
     std::uint8_t* const row = planes_[planar_ ? k : 0] + static_cast<std::size_t>(y) * step_;
-    const std::size_t sample = static_cast<std::size_t>(x) * pixel_ + (planar_ ? 0 : static_cast<std::size_t>(k));
+    const std::size_t sample =
+        static_cast<std::size_t>(x) * pixel_ + (planar_ ? 0 : static_cast<std::size_t>(k));
     return row + sample * bytes_;
   }
 
@@ -43,7 +46,9 @@ class ImageView {
   }
 
  private:
-  static registry::Type typeOf(const TestCall& call, std::size_t i) { return call.function.arguments[i].type; }
+  static registry::Type typeOf(const TestCall& call, std::size_t i) {
+    return call.function.arguments[i].type;
+  }
 
   std::uint8_t* planes_[4] = {};
   std::size_t bytes_;

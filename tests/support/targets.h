@@ -12,7 +12,8 @@
 
 namespace keli::test {
 
-// Uses the best of the targets up to one of them while it lives; fails the test if another one runs.
+// Uses the best of the targets up to one of them while it lives; fails the test if another one
+// runs.
 class UseTarget {
  public:
   explicit UseTarget(std::int64_t target) {

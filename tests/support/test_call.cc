@@ -19,7 +19,8 @@ constexpr std::size_t kWatchedBytes = std::size_t{1} << 26;
 
 template <class T>
 void fillIntegers(std::uint8_t* p, std::size_t count, Random& random) {
-  constexpr T kExtremes[] = {std::numeric_limits<T>::min(), std::numeric_limits<T>::max(), T{0}, T{1}};
+  constexpr T kExtremes[] = {std::numeric_limits<T>::min(), std::numeric_limits<T>::max(), T{0},
+                             T{1}};
   for (std::size_t i = 0; i < count; ++i) {
     const std::uint64_t r = random();
     const T v = (r & 7) == 0 ? kExtremes[(r >> 3) & 3] : static_cast<T>(r >> 5);
@@ -30,11 +31,12 @@ void fillIntegers(std::uint8_t* p, std::size_t count, Random& random) {
 template <class T>
 void fillFloats(std::uint8_t* p, std::size_t count, Random& random) {
   using L = std::numeric_limits<T>;
-  const T kSpecials[] = {T{0}, -T{0}, L::infinity(), -L::infinity(), L::quiet_NaN(), L::denorm_min(),
-                         L::max(), -L::max()};
+  const T kSpecials[] = {T{0},           -T{0},           L::infinity(), -L::infinity(),
+                         L::quiet_NaN(), L::denorm_min(), L::max(),      -L::max()};
   for (std::size_t i = 0; i < count; ++i) {
     const std::uint64_t r = random();
-    const T v = (r & 15) == 0 ? kSpecials[(r >> 4) & 7] : static_cast<T>(static_cast<std::int32_t>(r >> 20)) / 4096;
+    const T v = (r & 15) == 0 ? kSpecials[(r >> 4) & 7]
+                              : static_cast<T>(static_cast<std::int32_t>(r >> 20)) / 4096;
     std::memcpy(p + i * sizeof(T), &v, sizeof(T));
   }
 }
@@ -76,18 +78,30 @@ ArenaPool& pool() {
 
 void fillSamples(Type type, std::uint8_t* p, std::size_t count, Random& random) {
   switch (type) {
-    case Type::k8u: return fillIntegers<Kel8u>(p, count, random);
-    case Type::k8s: return fillIntegers<Kel8s>(p, count, random);
-    case Type::k16u: return fillIntegers<Kel16u>(p, count, random);
-    case Type::k16s: return fillIntegers<Kel16s>(p, count, random);
-    case Type::k32s: return fillIntegers<Kel32s>(p, count, random);
-    case Type::k64s: return fillIntegers<Kel64s>(p, count, random);
-    case Type::k32f: return fillFloats<Kel32f>(p, count, random);
-    case Type::k64f: return fillFloats<Kel64f>(p, count, random);
-    case Type::k16sc: return fillIntegers<Kel16s>(p, 2 * count, random);
-    case Type::k32sc: return fillIntegers<Kel32s>(p, 2 * count, random);
-    case Type::k32fc: return fillFloats<Kel32f>(p, 2 * count, random);
-    case Type::kNone: return;
+    case Type::k8u:
+      return fillIntegers<Kel8u>(p, count, random);
+    case Type::k8s:
+      return fillIntegers<Kel8s>(p, count, random);
+    case Type::k16u:
+      return fillIntegers<Kel16u>(p, count, random);
+    case Type::k16s:
+      return fillIntegers<Kel16s>(p, count, random);
+    case Type::k32s:
+      return fillIntegers<Kel32s>(p, count, random);
+    case Type::k64s:
+      return fillIntegers<Kel64s>(p, count, random);
+    case Type::k32f:
+      return fillFloats<Kel32f>(p, count, random);
+    case Type::k64f:
+      return fillFloats<Kel64f>(p, count, random);
+    case Type::k16sc:
+      return fillIntegers<Kel16s>(p, 2 * count, random);
+    case Type::k32sc:
+      return fillIntegers<Kel32s>(p, 2 * count, random);
+    case Type::k32fc:
+      return fillFloats<Kel32f>(p, 2 * count, random);
+    case Type::kNone:
+      return;
   }
 }
 
@@ -115,7 +129,8 @@ TestCall::TestCall(const registry::Function& f, const Geometry& g, std::uint64_t
         break;
       case Role::kConstant:
       case Role::kScalar:
-        fillSamples(a.type, constant, a.length != 0 ? static_cast<std::size_t>(a.length) : 1, random);
+        fillSamples(a.type, constant, a.length != 0 ? static_cast<std::size_t>(a.length) : 1,
+                    random);
         if (a.length != 0) {
           addArray(i, static_cast<std::size_t>(a.length) * registry::bytesOf(a.type), g, constant);
         } else if (a.type == Type::k32f) {
@@ -160,7 +175,9 @@ void TestCall::addImage(std::size_t i, const Geometry& g, Random& random) {
   Image image;
   image.argument = i;
   image.pixel = sample * static_cast<std::size_t>(pixelSamples(a.layout));
-  image.used = isPlanar(a.layout) || channel ? sample : sample * static_cast<std::size_t>(usedChannels(a.layout));
+  image.used = isPlanar(a.layout) || channel
+                   ? sample
+                   : sample * static_cast<std::size_t>(usedChannels(a.layout));
   image.rowBytes = channel ? (width - 1) * image.pixel + sample : width * image.pixel;
   image.step = width * image.pixel + static_cast<std::size_t>(g.padding);
   const int planes = isPlanar(a.layout) ? usedChannels(a.layout) : 1;
@@ -181,7 +198,8 @@ void TestCall::addImage(std::size_t i, const Geometry& g, Random& random) {
   }
   if (isPlanar(a.layout)) {
     planeArrays_.push_back(std::make_unique<const void*[]>(static_cast<std::size_t>(planes)));
-    for (int k = 0; k < planes; ++k) planeArrays_.back()[static_cast<std::size_t>(k)] = image.planes[static_cast<std::size_t>(k)];
+    for (int k = 0; k < planes; ++k)
+      planeArrays_.back()[static_cast<std::size_t>(k)] = image.planes[static_cast<std::size_t>(k)];
     values[i].p = planeArrays_.back().get();
   } else {
     values[i].p = image.planes[0];
@@ -211,7 +229,8 @@ std::size_t TestCall::lastSource() const {
   std::size_t last = npos;
   for (const Image& image : images_) {
     const Role role = function.arguments[image.argument].role;
-    if (role == Role::kSource || role == Role::kSourceChannel || role == Role::kInOut) last = image.argument;
+    if (role == Role::kSource || role == Role::kSourceChannel || role == Role::kInOut)
+      last = image.argument;
   }
   return last;
 }

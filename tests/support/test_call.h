@@ -1,6 +1,6 @@
-// A legal call of any function of the registry, built from the roles of its arguments: images between
-// inaccessible pages, random samples, parameters in range. Tests change values, run it, and ask what
-// was written.
+// A legal call of any function of the registry, built from the roles of its arguments: images
+// between inaccessible pages, random samples, parameters in range. Tests change values, run it, and
+// ask what was written.
 #pragma once
 
 #include <memory>
@@ -20,7 +20,7 @@ struct Geometry {
   int height = 3;
   int padding = 0;  // bytes between rows
   Place place = Place::kMiddle;
-  int offset = 0;   // bytes from an aligned address, for kMiddle
+  int offset = 0;  // bytes from an aligned address, for kMiddle
 };
 
 class TestCall {
@@ -58,9 +58,9 @@ class TestCall {
     std::size_t argument;
     std::vector<std::uint8_t*> planes;
     std::size_t step;
-    std::size_t pixel;       // bytes from one pixel to the next
-    std::size_t used;        // bytes of a pixel that belong to the function
-    std::size_t rowBytes;    // from the first to the last byte of a row's pixels
+    std::size_t pixel;     // bytes from one pixel to the next
+    std::size_t used;      // bytes of a pixel that belong to the function
+    std::size_t rowBytes;  // from the first to the last byte of a row's pixels
   };
 
   void addImage(std::size_t argument, const Geometry& g, Random& random);
