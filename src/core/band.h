@@ -17,9 +17,9 @@ struct Band {
   std::ptrdiff_t srcStep[kSources > 0 ? kSources : 1];
   std::uint8_t* dst;
   std::ptrdiff_t dstStep;
-  std::size_t n;        // samples of a row, or pixels: the kernel says which
+  std::size_t n;  // samples of a row, or pixels: the kernel says which
   std::size_t rows;
-  bool streams;         // stores may bypass the caches; see layOut
+  bool streams;  // stores may bypass the caches; see layOut
 
   template <class T>
   const T* srcRow(int i, std::size_t y) const {
@@ -46,14 +46,19 @@ inline Band<1> makeBand(const void* src, int srcStep, void* dst, int dstStep, st
 
 inline Band<2> makeBand(const void* src1, int src1Step, const void* src2, int src2Step, void* dst,
                         int dstStep, std::size_t n, int height) {
-  return {{bytes(src1), bytes(src2)}, {src1Step, src2Step}, bytes(dst), dstStep, n,
-          static_cast<std::size_t>(height), false};
+  return {{bytes(src1), bytes(src2)},
+          {src1Step, src2Step},
+          bytes(dst),
+          dstStep,
+          n,
+          static_cast<std::size_t>(height),
+          false};
 }
 
-// Settles how a region is walked. One without padding becomes one long row. One that moves more bytes
-// than the second-level cache holds is stored around the caches, which spares reading the destination
-// before it is overwritten; not in place, where it has just been read.
-// unit: bytes of one of the n in each source, then in the destination.
+// Settles how a region is walked. One without padding becomes one long row. One that moves more
+// bytes than the second-level cache holds is stored around the caches, which spares reading the
+// destination before it is overwritten; not in place, where it has just been read. unit: bytes of
+// one of the n in each source, then in the destination.
 template <int kSources>
 inline void layOut(Band<kSources>& b, const std::size_t (&unit)[kSources + 1]) {
   bool contiguous = static_cast<std::size_t>(b.dstStep) == b.n * unit[kSources];

@@ -1,11 +1,11 @@
 // Vectors of channels to and from interleaved pixels, in registers, so that the caller chooses the
 // stores.
 //
-// Three channels: position p of interleaved vector j holds a sample of channel (j * lanes + p) mod 3,
-// and as lanes is no multiple of 3, the samples of one channel stand at different positions in each of
-// the three vectors. So two selections gather a channel's samples into one vector, and one shuffle
-// puts them in order; the way back is the same in reverse. Where shuffles across a vector are missing,
-// blocks of 16 bytes are shuffled and put in place.
+// Three channels: position p of interleaved vector j holds a sample of channel (j * lanes + p) mod
+// 3, and as lanes is no multiple of 3, the samples of one channel stand at different positions in
+// each of the three vectors. So two selections gather a channel's samples into one vector, and one
+// shuffle puts them in order; the way back is the same in reverse. Where shuffles across a vector
+// are missing, blocks of 16 bytes are shuffled and put in place.
 #if defined(KELI_CORE_INTERLEAVE_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_CORE_INTERLEAVE_INL_H_
 #undef KELI_CORE_INTERLEAVE_INL_H_
@@ -88,7 +88,8 @@ HWY_INLINE void deinterleave3(D d, const hn::TFromD<D>* src, hn::Vec<D> (&v)[3])
     const std::uint8_t* const from = reinterpret_cast<const std::uint8_t*>(src);
     const auto a = hn::LoadU(d8, from), b = hn::LoadU(d8, from + 32), c = hn::LoadU(d8, from + 64);
     unrolled<3>([&](auto k) HWY_ATTR {
-      const auto inA = hn::LoadU(d8, Plan::kHolds[0][k].data()), inB = hn::LoadU(d8, Plan::kHolds[1][k].data());
+      const auto inA = hn::LoadU(d8, Plan::kHolds[0][k].data()),
+                 inB = hn::LoadU(d8, Plan::kHolds[1][k].data());
       const auto gathered = hn::IfVecThenElse(inA, a, hn::IfVecThenElse(inB, b, c));
       v[k] = hn::BitCast(d, permuteBytes(d8, gathered, hn::LoadU(d8, Plan::kOrdered[k].data())));
     });
@@ -109,7 +110,8 @@ HWY_INLINE void interleave3(D d, const hn::Vec<D> (&v)[3], hn::Vec<D> (&out)[3])
       spread[k] = permuteBytes(d8, hn::BitCast(d8, v[k]), hn::LoadU(d8, Plan::kSpread[k].data()));
     });
     unrolled<3>([&](auto j) HWY_ATTR {
-      const auto is0 = hn::LoadU(d8, Plan::kHolds[j][0].data()), is1 = hn::LoadU(d8, Plan::kHolds[j][1].data());
+      const auto is0 = hn::LoadU(d8, Plan::kHolds[j][0].data()),
+                 is1 = hn::LoadU(d8, Plan::kHolds[j][1].data());
       out[j] = hn::BitCast(
           d, hn::IfVecThenElse(is0, spread[0], hn::IfVecThenElse(is1, spread[1], spread[2])));
     });

@@ -10,8 +10,8 @@
 // kPeriod; the row then ends with the last sample written, and nothing after it is touched.
 //
 // Rows of at least a vector: the last vector is computed first and stored last, which is right in
-// place too. Shorter rows: the same with vectors of 16, 8 and 4 bytes, then samples. Vectors are of 32
-// bytes at most: longer ones measured slower, in the caches and beyond.
+// place too. Shorter rows: the same with vectors of 16, 8 and 4 bytes, then samples. Vectors are of
+// 32 bytes at most: longer ones measured slower, in the caches and beyond.
 #if defined(KELI_CORE_MAP_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_CORE_MAP_INL_H_
 #undef KELI_CORE_MAP_INL_H_
@@ -207,8 +207,8 @@ HWY_INLINE void mapRows(const Band<1>& b, const Op& op) {
 template <class TS1, class TS2, class TD, class Keep = KeepNone, class Op>
 HWY_INLINE void mapRows(const Band<2>& b, const Op& op) {
   for (std::size_t y = 0; y < b.rows; ++y) {
-    map::Row<Op, Keep, TD, TS1, TS2>::run(op, b.streams, b.n - Keep::kTrim, b.template dstRow<TD>(y),
-                                          b.template srcRow<TS1>(0, y),
+    map::Row<Op, Keep, TD, TS1, TS2>::run(op, b.streams, b.n - Keep::kTrim,
+                                          b.template dstRow<TD>(y), b.template srcRow<TS1>(0, y),
                                           b.template srcRow<TS2>(1, y));
   }
   if (b.streams) hwy::FlushStream();

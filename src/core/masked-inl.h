@@ -1,10 +1,10 @@
-// Row driver of masked operations: where the mask byte is not 0, the pixel (of kPixel bytes) takes the
-// source's value. Which bytes a pixel takes is all that matters, not its type and channels.
+// Row driver of masked operations: where the mask byte is not 0, the pixel (of kPixel bytes) takes
+// the source's value. Which bytes a pixel takes is all that matters, not its type and channels.
 //
 // A source has
-//   vector(d, v, offset)   the destination vector at a byte offset of the row; v is its place in a step
-//   byte(j, offset)        the value of byte j of the pixel that starts at offset
-//   kAreasFrom             bytes of a pixel from which on areas of the mask are looked for
+//   vector(d, v, offset)   the destination vector at a byte offset of the row; v is its place in a
+//   step byte(j, offset)        the value of byte j of the pixel that starts at offset kAreasFrom
+//   bytes of a pixel from which on areas of the mask are looked for
 // Rows end with a step that overlaps the one before: written twice, the result is the same.
 #if defined(KELI_CORE_MASKED_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_CORE_MASKED_INL_H_
@@ -38,17 +38,17 @@ struct Masked {
     }
   }
 
-  // Masks are mostly made of areas: a step that is not set at all may be passed over, and one that is
-  // set throughout stored without reading the destination. For small pixels that measured slower, as
-  // the branches at the areas' edges weigh more than the memory spared.
+  // Masks are mostly made of areas: a step that is not set at all may be passed over, and one that
+  // is set throughout stored without reading the destination. For small pixels that measured
+  // slower, as the branches at the areas' edges weigh more than the memory spared.
   template <class Source>
   static constexpr bool looksForAreas() {
     return kUsed == kPixel ? kPixel >= Source::kAreasFrom : kPixel == 16;
   }
 
   template <class D, class Source>
-  static HWY_INLINE void step(D d, const std::uint8_t* mask, const Source& source, std::uint8_t* dst,
-                              std::size_t x) {
+  static HWY_INLINE void step(D d, const std::uint8_t* mask, const Source& source,
+                              std::uint8_t* dst, std::size_t x) {
     constexpr std::size_t kN = hn::MaxLanes(D());
     using Plan = ShufflePlan<Spread, kN>;
     std::uint8_t* const out = dst + x * kPixel;
@@ -74,14 +74,15 @@ struct Masked {
         wanted = hn::IfThenElseZero(cycleMask<kPixel, kUsed>(d, v * kN % kPixel), wanted);
       }
       const auto keep = hn::Eq(wanted, hn::Zero(d));
-      hn::StoreU(hn::IfThenElse(keep, hn::LoadU(d, out + v * kN), source.vector(d, v, x * kPixel + v * kN)),
+      hn::StoreU(hn::IfThenElse(keep, hn::LoadU(d, out + v * kN),
+                                source.vector(d, v, x * kPixel + v * kN)),
                  d, out + v * kN);
     });
   }
 
   template <class D, class Source>
-  static HWY_INLINE bool steps(D d, const std::uint8_t* mask, const Source& source, std::uint8_t* dst,
-                               std::size_t n) {
+  static HWY_INLINE bool steps(D d, const std::uint8_t* mask, const Source& source,
+                               std::uint8_t* dst, std::size_t n) {
     using Plan = ShufflePlan<Spread, hn::MaxLanes(D())>;
     constexpr std::size_t kPixels = Plan::kPixels;
     constexpr std::size_t kUnroll = Plan::kVectors == 1 ? 4 : 1;

@@ -103,12 +103,14 @@ struct Move {
   using BlockTag = std::conditional_t<kPermutesBytes, D32, D16>;
   using Block = BlockPlan<Map, hn::MaxLanes(BlockTag())>;
 
-  // Blocks beat steps that put vectors together from several windows, if they waste little of a store.
+  // Blocks beat steps that put vectors together from several windows, if they waste little of a
+  // store.
   static constexpr bool prefersBlocks() {
     return !keepsSome() && 4 * Block::kBytes >= 3 * hn::MaxLanes(BlockTag());
   }
 
-  // A row of n whole pixels in blocks, not in place: at least a step of 16-byte vectors, which ends it.
+  // A row of n whole pixels in blocks, not in place: at least a step of 16-byte vectors, which ends
+  // it.
   static HWY_INLINE void blocks(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
                                 hn::Vec<BlockTag> block, const ShuffleIndices<Map, D16>& indices) {
     constexpr std::size_t kEnd = Step<D16>::Plan::kPixels;
@@ -131,8 +133,8 @@ struct Move {
 
   // A row of any length.
   template <class Choice>
-  static HWY_INLINE void row(const std::uint8_t* src, std::uint8_t* dst, std::size_t n, const Choice& choice,
-                             const ShuffleIndices<Map, D16>& indices) {
+  static HWY_INLINE void row(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
+                             const Choice& choice, const ShuffleIndices<Map, D16>& indices) {
     const std::size_t whole = Map::kWhole ? n : n - 1;
     if (whole < Step<D16>::Plan::kPixels) return pixels(src, dst, n, choice);
     steps<false>(D16(), src, dst, whole, indices);
@@ -150,8 +152,8 @@ struct Move {
 
   // A long row, stored around the caches but for what comes before its first line.
   template <class Choice>
-  static HWY_INLINE void streamed(const std::uint8_t* src, std::uint8_t* dst, std::size_t n, const Choice& choice,
-                                  const ShuffleIndices<Map, D16>& indices,
+  static HWY_INLINE void streamed(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
+                                  const Choice& choice, const ShuffleIndices<Map, D16>& indices,
                                   const ShuffleIndices<Map, D32>& wide) {
     const std::size_t head = pixelsToLine(dst, n);
     if (head != 0) row(src, dst, head, choice, indices);
@@ -178,10 +180,12 @@ struct Move {
         streamed(src, dst, b.n, choice, indices, wide);
       } else if (inBlocks && whole >= Step<D16>::Plan::kPixels) {
         blocks(src, dst, whole, block, indices);
-        if constexpr (!Map::kWhole) pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, 1, choice);
+        if constexpr (!Map::kWhole)
+          pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, 1, choice);
       } else if (!inBlocks && whole >= Step<D32>::Plan::kPixels) {
         steps<false>(D32(), src, dst, whole, wide);
-        if constexpr (!Map::kWhole) pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, 1, choice);
+        if constexpr (!Map::kWhole)
+          pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, 1, choice);
       } else {
         row(src, dst, b.n, choice, indices);
       }

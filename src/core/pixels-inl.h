@@ -1,11 +1,11 @@
-// Row driver over pixels of several channels: op takes and gives one vector for each channel, whatever
-// the layouts of source and destination.
+// Row driver over pixels of several channels: op takes and gives one vector for each channel,
+// whatever the layouts of source and destination.
 //
 // An operation (Op) has
-//   vector(d, in)    std::array of vectors, one for each source channel, to one for each destination's
-//   scalar(in)       the same on samples: the definition
-// AC4 and AP4 give and take three channels; a destination's fourth is read and written back (AC4) or
-// not touched (AP4).
+//   vector(d, in)    std::array of vectors, one for each source channel, to one for each
+//   destination's scalar(in)       the same on samples: the definition
+// AC4 and AP4 give and take three channels; a destination's fourth is read and written back (AC4)
+// or not touched (AP4).
 #if defined(KELI_CORE_PIXELS_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_CORE_PIXELS_INL_H_
 #undef KELI_CORE_PIXELS_INL_H_
@@ -128,16 +128,19 @@ struct Pixels {
     for (std::size_t x = 0; x < kLine; ++x) {
       bool aligned = true;
       for (std::size_t k = 0; k < kPlanesOut; ++k) {
-        aligned = aligned && reinterpret_cast<std::uintptr_t>(dst[k] + pixelSamples(kTo) * x) % kLine == 0;
+        aligned = aligned &&
+                  reinterpret_cast<std::uintptr_t>(dst[k] + pixelSamples(kTo) * x) % kLine == 0;
       }
       if (aligned) return x;
     }
     return n;
   }
 
-  // As in map-inl.h, long rows are set on cache lines, and then stored around the caches if asked for.
+  // As in map-inl.h, long rows are set on cache lines, and then stored around the caches if asked
+  // for.
   template <class Op>
-  static HWY_INLINE void row(const Op& op, bool streams, Source src, Destination dst, std::size_t n) {
+  static HWY_INLINE void row(const Op& op, bool streams, Source src, Destination dst,
+                             std::size_t n) {
     constexpr std::size_t kVectorBytes = std::min(HWY_MAX_BYTES, 32);
     constexpr std::size_t kLong = 4096 / sizeof(TD);
     if constexpr (kScalarTarget) {

@@ -17,7 +17,7 @@ struct PlanesBand {
   std::ptrdiff_t dstStep;
   std::size_t n;  // pixels of a row
   std::size_t rows;
-  bool streams;   // as in Band
+  bool streams;  // as in Band
 
   template <class T>
   const T* srcRow(int plane, std::size_t y) const {

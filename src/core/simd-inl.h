@@ -86,7 +86,8 @@ HWY_INLINE auto cycleMask(D d, std::size_t phase) {
       hn::BitCast(d, hn::LoadU(du, CyclePattern<T, kPeriod, kUsed>::kBits.data() + phase)));
 }
 
-// Indices that repeat the first kPixel of 16 bytes, long enough to load a vector from any byte of them.
+// Indices that repeat the first kPixel of 16 bytes, long enough to load a vector from any byte of
+// them.
 template <std::size_t kPixel>
 struct RepeatIndices {
   static constexpr std::size_t kSize = HWY_MAX_BYTES + 16;

@@ -1,5 +1,5 @@
-// Frame of Copy: whole pixels, under a mask, between layouts and single channels. Arguments have been
-// checked. Images without padding are walked as one long row.
+// Frame of Copy: whole pixels, under a mask, between layouts and single channels. Arguments have
+// been checked. Images without padding are walked as one long row.
 #pragma once
 
 #include "data/copy_rows.h"
@@ -24,8 +24,8 @@ KelStatus copy(const T* src, int srcStep, T* dst, int dstStep, KeliSize size) {
 }
 
 template <class T, Layout kLayout>
-KelStatus copyMasked(const T* src, int srcStep, T* dst, int dstStep, KeliSize size, const Kel8u* mask,
-                     int maskStep) {
+KelStatus copyMasked(const T* src, int srcStep, T* dst, int dstStep, KeliSize size,
+                     const Kel8u* mask, int maskStep) {
   constexpr std::size_t kPixel = pixelSamples(kLayout) * sizeof(T);
   Band<2> b = makeBand(src, srcStep, mask, maskStep, dst, dstStep,
                        static_cast<std::size_t>(size.width), size.height);
@@ -39,7 +39,8 @@ KelStatus copyMasked(const T* src, int srcStep, T* dst, int dstStep, KeliSize si
 template <class T>
 KelStatus copyPixels(CopyBand kernel, const T* src, int srcStep, std::size_t srcSamples, T* dst,
                      int dstStep, std::size_t dstSamples, KeliSize size) {
-  Band<1> b = makeBand(src, srcStep, dst, dstStep, static_cast<std::size_t>(size.width), size.height);
+  Band<1> b =
+      makeBand(src, srcStep, dst, dstStep, static_cast<std::size_t>(size.width), size.height);
   layOut(b, {srcSamples * sizeof(T), dstSamples * sizeof(T)});
   kernel(b);
   return kelStatusOk;
@@ -48,15 +49,15 @@ KelStatus copyPixels(CopyBand kernel, const T* src, int srcStep, std::size_t src
 template <class T, Layout kFrom>
 KelStatus extractChannel(const T* src, int srcStep, T* dst, int dstStep, KeliSize size) {
   const CopyLayoutRows& rows = copyLayoutRows();
-  return copyPixels<T>((kFrom == Layout::C3 ? rows.c3c1 : rows.c4c1).template get<T>(), src, srcStep,
-                       pixelSamples(kFrom), dst, dstStep, 1, size);
+  return copyPixels<T>((kFrom == Layout::C3 ? rows.c3c1 : rows.c4c1).template get<T>(), src,
+                       srcStep, pixelSamples(kFrom), dst, dstStep, 1, size);
 }
 
 template <class T, Layout kTo>
 KelStatus insertChannel(const T* src, int srcStep, T* dst, int dstStep, KeliSize size) {
   const CopyLayoutRows& rows = copyLayoutRows();
-  return copyPixels<T>((kTo == Layout::C3 ? rows.c1c3 : rows.c1c4).template get<T>(), src, srcStep, 1,
-                       dst, dstStep, pixelSamples(kTo), size);
+  return copyPixels<T>((kTo == Layout::C3 ? rows.c1c3 : rows.c1c4).template get<T>(), src, srcStep,
+                       1, dst, dstStep, pixelSamples(kTo), size);
 }
 
 template <class T, Layout kLayout>
@@ -74,10 +75,9 @@ KelStatus copyLayout(Source src, int srcStep, Destination dst, int dstStep, Keli
   const CopyLayoutRows& rows = copyLayoutRows();
   if constexpr (isPlanar(kFrom) || isPlanar(kTo)) {
     constexpr bool kThree = usedChannels(kFrom) == 3;
-    const auto& kernels = isPlanar(kTo) ? (kThree ? rows.c3p3 : rows.c4p4)
-                                        : (kThree ? rows.p3c3 : rows.p4c4);
-    kernels.template get<T>()(
-        makePlanesBand<kFrom, kTo, T, T>(src, srcStep, dst, dstStep, size));
+    const auto& kernels =
+        isPlanar(kTo) ? (kThree ? rows.c3p3 : rows.c4p4) : (kThree ? rows.p3c3 : rows.p4c4);
+    kernels.template get<T>()(makePlanesBand<kFrom, kTo, T, T>(src, srcStep, dst, dstStep, size));
     return kelStatusOk;
   } else {
     const auto& kernels = kFrom == Layout::AC4 ? rows.ac4c3 : rows.c3ac4;

@@ -27,7 +27,8 @@ inline Pixel pixelOf(const Value& value) {
 template <class T>
 KelStatus setSamples(SetBand kernel, const Pixel& pixel, T* dst, int dstStep, int channels,
                      KeliSize size) {
-  const std::size_t samples = static_cast<std::size_t>(channels) * static_cast<std::size_t>(size.width);
+  const std::size_t samples =
+      static_cast<std::size_t>(channels) * static_cast<std::size_t>(size.width);
   Band<0> b = makeBand(dst, dstStep, samples, size.height);
   layOut(b, {sizeof(T)});
   kernel(b, pixel.bytes);
@@ -54,12 +55,15 @@ KelStatus setChannel(T value, T* dst, int dstStep, KeliSize size) {
 }
 
 template <class T, Layout kLayout, class Value>
-KelStatus setMasked(Value value, T* dst, int dstStep, KeliSize size, const Kel8u* mask, int maskStep) {
+KelStatus setMasked(Value value, T* dst, int dstStep, KeliSize size, const Kel8u* mask,
+                    int maskStep) {
   constexpr std::size_t kPixel = pixelSamples(kLayout) * sizeof(T);
-  Band<1> b = makeBand(mask, maskStep, dst, dstStep, static_cast<std::size_t>(size.width), size.height);
+  Band<1> b =
+      makeBand(mask, maskStep, dst, dstStep, static_cast<std::size_t>(size.width), size.height);
   layOut(b, {1, kPixel});
   const MaskedRows& rows = maskedRows();
-  (kLayout == Layout::AC4 ? rows.setAC4.template get<T>() : rows.set[kPixel])(b, pixelOf<T, kLayout>(value).bytes);
+  (kLayout == Layout::AC4 ? rows.setAC4.template get<T>() : rows.set[kPixel])(
+      b, pixelOf<T, kLayout>(value).bytes);
   return kelStatusOk;
 }
 

@@ -65,7 +65,8 @@ struct SwapChoice {
   template <class D>
   HWY_INLINE hn::Vec<D> block(D d) const {
     constexpr std::size_t kN = hn::MaxLanes(D());
-    const auto add = hn::TableLookupBytes(hn::LoadDup128(d, distance), hn::LoadU(d, kBlockPlaces<kN>.data()));
+    const auto add =
+        hn::TableLookupBytes(hn::LoadDup128(d, distance), hn::LoadU(d, kBlockPlaces<kN>.data()));
     return hn::Add(hn::LoadU(d, BlockPlan<Map, kN>::kIndices.data()), add);
   }
 

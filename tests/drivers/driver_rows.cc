@@ -1,5 +1,6 @@
 #include "drivers/driver_rows.h"
 
+#define KELI_ENABLE_AVX512
 #include "core/simd_config.h"
 #include "core/target.h"
 

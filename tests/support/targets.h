@@ -5,6 +5,7 @@
 
 #include <vector>
 
+#define KELI_ENABLE_AVX512
 #include "core/simd_config.h"
 #include "core/target.h"
 //
@@ -25,7 +26,7 @@ class UseTarget {
   UseTarget& operator=(const UseTarget&) = delete;
 };
 
-// Best first, the scalar one last. Files compiled without AVX-512 run AVX2 where it is asked for.
+// Best first, the scalar one last. Files compiled without AVX-512 run AVX2 where it is chosen.
 inline std::vector<std::int64_t> testedTargets() {
   std::vector<std::int64_t> targets;
   const std::int64_t compiled = HWY_TARGETS | HWY_SCALAR;
