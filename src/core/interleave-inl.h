@@ -87,7 +87,7 @@ HWY_INLINE void deinterleave3(D d, const hn::TFromD<D>* src, hn::Vec<D> (&v)[3])
     const hn::Repartition<std::uint8_t, D> d8;
     const std::uint8_t* const from = reinterpret_cast<const std::uint8_t*>(src);
     const auto a = hn::LoadU(d8, from), b = hn::LoadU(d8, from + 32), c = hn::LoadU(d8, from + 64);
-    unrolled<3>([&](auto k) HWY_ATTR {
+    unrolled<3>([&](auto k) KELI_LAMBDA {
       const auto inA = hn::LoadU(d8, Plan::kHolds[0][k].data()),
                  inB = hn::LoadU(d8, Plan::kHolds[1][k].data());
       const auto gathered = hn::IfVecThenElse(inA, a, hn::IfVecThenElse(inB, b, c));
@@ -106,10 +106,10 @@ HWY_INLINE void interleave3(D d, const hn::Vec<D> (&v)[3], hn::Vec<D> (&out)[3])
   if constexpr (kPermutesBytes && kBytes == 32) {
     using Plan = Interleave3<32, sizeof(hn::TFromD<D>)>;
     hn::Vec<decltype(d8)> spread[3];
-    unrolled<3>([&](auto k) HWY_ATTR {
+    unrolled<3>([&](auto k) KELI_LAMBDA {
       spread[k] = permuteBytes(d8, hn::BitCast(d8, v[k]), hn::LoadU(d8, Plan::kSpread[k].data()));
     });
-    unrolled<3>([&](auto j) HWY_ATTR {
+    unrolled<3>([&](auto j) KELI_LAMBDA {
       const auto is0 = hn::LoadU(d8, Plan::kHolds[j][0].data()),
                  is1 = hn::LoadU(d8, Plan::kHolds[j][1].data());
       out[j] = hn::BitCast(
@@ -119,9 +119,9 @@ HWY_INLINE void interleave3(D d, const hn::Vec<D> (&v)[3], hn::Vec<D> (&out)[3])
     // Blocks of 16 bytes, or one that is all of a shorter vector.
     using Plan = Interleave3<std::min<std::size_t>(kBytes, 16), sizeof(hn::TFromD<D>)>;
     hn::Vec<D> blocks[3];
-    unrolled<3>([&](auto j) HWY_ATTR {
+    unrolled<3>([&](auto j) KELI_LAMBDA {
       auto all = hn::Zero(d8);
-      unrolled<3>([&](auto k) HWY_ATTR {
+      unrolled<3>([&](auto k) KELI_LAMBDA {
         const auto indices = hn::LoadU(d8, Plan::kSpreadInto[j][k].data());
         all = hn::Or(all, hn::TableLookupBytesOr0(hn::BitCast(d8, v[k]), indices));
       });
@@ -132,7 +132,7 @@ HWY_INLINE void interleave3(D d, const hn::Vec<D> (&v)[3], hn::Vec<D> (&out)[3])
       out[1] = hn::ConcatUpperLower(d, blocks[0], blocks[2]);
       out[2] = hn::ConcatUpperUpper(d, blocks[2], blocks[1]);
     } else {
-      unrolled<3>([&](auto j) HWY_ATTR { out[j] = blocks[j]; });
+      unrolled<3>([&](auto j) KELI_LAMBDA { out[j] = blocks[j]; });
     }
   }
 }
@@ -145,7 +145,7 @@ HWY_INLINE void interleave4(D d, const hn::Vec<D> (&v)[4], hn::Vec<D> (&out)[4])
   if constexpr (kBytes < 16) {
     T pixels[4 * hn::MaxLanes(D())];
     hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, pixels);
-    unrolled<4>([&](auto j) HWY_ATTR { out[j] = hn::LoadU(d, pixels + j * hn::MaxLanes(D())); });
+    unrolled<4>([&](auto j) KELI_LAMBDA { out[j] = hn::LoadU(d, pixels + j * hn::MaxLanes(D())); });
   } else {
     using Pair = hwy::MakeWide<hwy::MakeUnsigned<T>>;
     const hn::Repartition<Pair, D> dp;

@@ -20,7 +20,7 @@ HWY_INLINE void lookupRow(const Table& table, const std::uint8_t* src, TD* dst, 
   for (; i + 8 <= n; i += 8) {
     std::uint64_t eight;
     std::memcpy(&eight, src + i, 8);
-    unrolled<8>([&](auto k) HWY_ATTR {
+    unrolled<8>([&](auto k) KELI_LAMBDA {
       // The cycles of Keep are 1, 4 or, where the phase is not fixed, 3 samples long.
       const std::size_t phase = Keep::kPeriod == 3 ? (i + k) % 3 : k % Keep::kPeriod;
       if (Keep::written(phase))

@@ -109,14 +109,14 @@ struct Row {
     // Every kDistinct-th vector starts at the same phase.
     constexpr std::size_t kDistinct = kN % kPeriod == 0 ? 1 : kPeriod;
     Vector<D> k[kDistinct];
-    unrolled<kDistinct>([&](auto u) HWY_ATTR { k[u] = at(d, op, (phase + u * kN) % kPeriod); });
+    unrolled<kDistinct>([&](auto u) KELI_LAMBDA { k[u] = at(d, op, (phase + u * kN) % kPeriod); });
     std::size_t i = 0;
     for (; i + kUnroll * kN <= end; i += kUnroll * kN) {
       hn::Vec<D> v[kUnroll];
-      unrolled<kUnroll>([&](auto u) HWY_ATTR {
+      unrolled<kUnroll>([&](auto u) KELI_LAMBDA {
         v[u] = compute(d, op, k[u % kDistinct], dst + i + u * kN, (src + i + u * kN)...);
       });
-      unrolled<kUnroll>([&](auto u) HWY_ATTR {
+      unrolled<kUnroll>([&](auto u) KELI_LAMBDA {
         if constexpr (kStreams) {
           hn::Stream(v[u], d, dst + i + u * kN);
         } else {
@@ -124,7 +124,7 @@ struct Row {
         }
       });
     }
-    unrolled<kUnroll>([&](auto u) HWY_ATTR {
+    unrolled<kUnroll>([&](auto u) KELI_LAMBDA {
       if (i < end) {
         hn::StoreU(compute(d, op, k[u % kDistinct], dst + i, (src + i)...), d, dst + i);
         i += kN;

@@ -57,13 +57,13 @@ struct Masked {
       const auto unset = hn::Eq(hn::LoadU(dm, mask + x), hn::Zero(dm));
       if (hn::AllTrue(dm, unset)) return;
       if (kUsed == kPixel && hn::AllFalse(dm, unset)) {
-        unrolled<Plan::kVectors>([&](auto v) HWY_ATTR {
+        unrolled<Plan::kVectors>([&](auto v) KELI_LAMBDA {
           hn::StoreU(source.vector(d, v, x * kPixel + v * kN), d, out + v * kN);
         });
         return;
       }
     }
-    unrolled<Plan::kVectors>([&](auto v) HWY_ATTR {
+    unrolled<Plan::kVectors>([&](auto v) KELI_LAMBDA {
       hn::Vec<D> wanted;
       if constexpr (kPixel == 1) {
         wanted = hn::LoadU(d, mask + x);
@@ -73,10 +73,7 @@ struct Masked {
       if constexpr (kUsed < kPixel) {
         wanted = hn::IfThenElseZero(cycleMask<kPixel, kUsed>(d, v * kN % kPixel), wanted);
       }
-      const auto keep = hn::Eq(wanted, hn::Zero(d));
-      hn::StoreU(hn::IfThenElse(keep, hn::LoadU(d, out + v * kN),
-                                source.vector(d, v, x * kPixel + v * kN)),
-                 d, out + v * kN);
+      storeWhere(d, hn::Ne(wanted, hn::Zero(d)), source.vector(d, v, x * kPixel + v * kN), out + v * kN);
     });
   }
 
@@ -90,7 +87,7 @@ struct Masked {
     const std::size_t end = n - kPixels;
     std::size_t x = 0;
     for (; kUnroll > 1 && x + kUnroll * kPixels <= end; x += kUnroll * kPixels) {
-      unrolled<kUnroll>([&](auto u) HWY_ATTR { step(d, mask, source, dst, x + u * kPixels); });
+      unrolled<kUnroll>([&](auto u) KELI_LAMBDA { step(d, mask, source, dst, x + u * kPixels); });
     }
     for (; x < end; x += kPixels) step(d, mask, source, dst, x);
     step(d, mask, source, dst, end);

@@ -61,7 +61,7 @@ struct Move {
     HWY_INLINE void load(const std::uint8_t* src, const std::uint8_t* dst,
                          const ShuffleIndices<Map, D>& indices) {
       const D d;
-      unrolled<Plan::kVectors>([&](auto i) HWY_ATTR {
+      unrolled<Plan::kVectors>([&](auto i) KELI_LAMBDA {
         v[i] = shuffled<i>(d, src, indices);
         if constexpr (keepsSome()) {
           const auto kept = hn::MaskFromVec(hn::LoadU(d, kKept.data() + i * kN));
@@ -72,7 +72,7 @@ struct Move {
 
     template <bool kStreams>
     HWY_INLINE void store(std::uint8_t* dst) const {
-      unrolled<Plan::kVectors>([&](auto i) HWY_ATTR {
+      unrolled<Plan::kVectors>([&](auto i) KELI_LAMBDA {
         if constexpr (kStreams) {
           hn::Stream(v[i], D(), dst + i * kN);
         } else {
@@ -103,10 +103,13 @@ struct Move {
   using BlockTag = std::conditional_t<kPermutesBytes, D32, D16>;
   using Block = BlockPlan<Map, hn::MaxLanes(BlockTag())>;
 
-  // Blocks beat steps that put vectors together from several windows, if they waste little of a
-  // store.
+  // Blocks beat steps that put vectors together from several windows, if they waste little of a store;
+  // one that starts before the last step must lie within the row.
   static constexpr bool prefersBlocks() {
-    return !keepsSome() && 4 * Block::kBytes >= 3 * hn::MaxLanes(BlockTag());
+    constexpr std::size_t kLanes = hn::MaxLanes(BlockTag());
+    constexpr std::size_t kEnd = Step<D16>::Plan::kPixels;
+    return !keepsSome() && 4 * Block::kBytes >= 3 * kLanes &&
+           kEnd * std::min(Map::kSrc, Map::kDst) >= kLanes;
   }
 
   // A row of n whole pixels in blocks, not in place: at least a step of 16-byte vectors, which ends
@@ -114,16 +117,14 @@ struct Move {
   static HWY_INLINE void blocks(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
                                 hn::Vec<BlockTag> block, const ShuffleIndices<Map, D16>& indices) {
     constexpr std::size_t kEnd = Step<D16>::Plan::kPixels;
-    static_assert(kEnd * std::min(Map::kSrc, Map::kDst) >= hn::MaxLanes(BlockTag()),
-                  "a block that starts before the last step must lie within the row");
     const BlockTag d;
     const std::size_t end = n - kEnd;
-    const auto move = [&](std::size_t x) HWY_ATTR {
+    const auto move = [&](std::size_t x) KELI_LAMBDA {
       hn::StoreU(shuffleAll(d, hn::LoadU(d, src + x * Map::kSrc), block), d, dst + x * Map::kDst);
     };
     std::size_t x = 0;
     for (; x + 3 * Block::kPixels < end; x += 4 * Block::kPixels) {
-      unrolled<4>([&](auto u) HWY_ATTR { move(x + u * Block::kPixels); });
+      unrolled<4>([&](auto u) KELI_LAMBDA { move(x + u * Block::kPixels); });
     }
     for (; x < end; x += Block::kPixels) move(x);
     Step<D16> last;

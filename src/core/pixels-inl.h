@@ -41,11 +41,11 @@ struct Pixels {
   static HWY_INLINE std::array<hn::Vec<D>, kIn> loadPixels(D d, Source src, std::size_t x) {
     std::array<hn::Vec<D>, kIn> v;
     if constexpr (isPlanar(kFrom) || kFrom == Layout::C1) {
-      unrolled<kIn>([&](auto k) HWY_ATTR { v[k] = hn::LoadU(d, src[k] + x); });
+      unrolled<kIn>([&](auto k) KELI_LAMBDA { v[k] = hn::LoadU(d, src[k] + x); });
     } else if constexpr (pixelSamples(kFrom) == 3) {
       hn::Vec<D> three[3];
       deinterleave3(d, src[0] + 3 * x, three);
-      unrolled<3>([&](auto k) HWY_ATTR { v[k] = three[k]; });
+      unrolled<3>([&](auto k) KELI_LAMBDA { v[k] = three[k]; });
     } else if constexpr (kIn == 4) {
       hn::LoadInterleaved4(d, src[0] + 4 * x, v[0], v[1], v[2], v[3]);
     } else {
@@ -69,20 +69,20 @@ struct Pixels {
                                      std::size_t x) {
     constexpr std::size_t kN = hn::MaxLanes(D());
     if constexpr (isPlanar(kTo) || kTo == Layout::C1) {
-      unrolled<kOut>([&](auto k) HWY_ATTR { put<kStreams>(d, v[k], dst[k] + x); });
+      unrolled<kOut>([&](auto k) KELI_LAMBDA { put<kStreams>(d, v[k], dst[k] + x); });
     } else if constexpr (pixelSamples(kTo) == 3) {
       hn::Vec<D> out[3];
       interleave3(d, {v[0], v[1], v[2]}, out);
-      unrolled<3>([&](auto j) HWY_ATTR { put<kStreams>(d, out[j], dst[0] + 3 * x + j * kN); });
+      unrolled<3>([&](auto j) KELI_LAMBDA { put<kStreams>(d, out[j], dst[0] + 3 * x + j * kN); });
     } else {
       hn::Vec<D> in[4], out[4];
-      unrolled<kOut>([&](auto k) HWY_ATTR { in[k] = v[k]; });
+      unrolled<kOut>([&](auto k) KELI_LAMBDA { in[k] = v[k]; });
       if constexpr (kReadsBack) {
         hn::Vec<D> other;
         hn::LoadInterleaved4(d, dst[0] + 4 * x, other, other, other, in[3]);
       }
       interleave4(d, in, out);
-      unrolled<4>([&](auto j) HWY_ATTR { put<kStreams>(d, out[j], dst[0] + 4 * x + j * kN); });
+      unrolled<4>([&](auto j) KELI_LAMBDA { put<kStreams>(d, out[j], dst[0] + 4 * x + j * kN); });
     }
   }
 

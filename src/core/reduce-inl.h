@@ -49,11 +49,11 @@ struct ReduceRow {
     if (n < kFew) return samples(op, n, src...);
     std::size_t i = 0;
     for (; i + kUnroll * kN <= n; i += kUnroll * kN) {
-      unrolled<kUnroll>([&](auto u) HWY_ATTR {
+      unrolled<kUnroll>([&](auto u) KELI_LAMBDA {
         op.template add<u>(d, hn::LoadU(hn::Rebind<TS, D>(), src + i + u * kN)...);
       });
     }
-    unrolled<kUnroll>([&](auto u) HWY_ATTR {
+    unrolled<kUnroll>([&](auto u) KELI_LAMBDA {
       if (i + kN <= n) {
         op.template add<u>(d, hn::LoadU(hn::Rebind<TS, D>(), src + i)...);
         i += kN;

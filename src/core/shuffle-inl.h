@@ -119,9 +119,9 @@ struct ShuffleIndices {
   // Those of a Map that is fixed when compiling.
   static HWY_INLINE ShuffleIndices fixed() {
     ShuffleIndices indices;
-    unrolled<Plan::kVectors>([&](auto v) HWY_ATTR {
+    unrolled<Plan::kVectors>([&](auto v) KELI_LAMBDA {
       unrolled<Plan::kWindows>(
-          [&](auto w) HWY_ATTR { indices.of[v][w] = hn::LoadU(D(), Plan::kIndices[v][w].data()); });
+          [&](auto w) KELI_LAMBDA { indices.of[v][w] = hn::LoadU(D(), Plan::kIndices[v][w].data()); });
     });
     return indices;
   }
@@ -136,7 +136,7 @@ HWY_INLINE hn::Vec<D> shuffled(D d, const std::uint8_t* src,
   constexpr std::size_t kLow = v * kN;
   constexpr std::size_t kHigh = kLow + kN - 16;
   hn::Vec<D> out = hn::Zero(d);
-  unrolled<Plan::kWindows>([&](auto w) HWY_ATTR {
+  unrolled<Plan::kWindows>([&](auto w) KELI_LAMBDA {
     const hn::Vec<D> part = hn::TableLookupBytesOr0(
         loadBlocks<Plan::window(kLow, w), Plan::window(kHigh, w)>(d, src), indices.of[v][w]);
     out = w == 0 ? part : hn::Or(out, part);

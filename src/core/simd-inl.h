@@ -13,6 +13,11 @@
 
 #include <hwy/highway.h>
 
+// Lambdas of kernels: compiled for the target, and never left as calls.
+#ifndef KELI_LAMBDA
+#define KELI_LAMBDA HWY_ATTR __attribute__((always_inline))
+#endif
+
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
@@ -84,6 +89,17 @@ HWY_INLINE auto cycleMask(D d, std::size_t phase) {
   const hn::RebindToUnsigned<D> du;
   return hn::MaskFromVec(
       hn::BitCast(d, hn::LoadU(du, CyclePattern<T, kPeriod, kUsed>::kBits.data() + phase)));
+}
+
+// Stores the lanes of v that mask has; the others keep their values, read and written back where the
+// target has no stores under a mask.
+template <class D, class M>
+HWY_INLINE void storeWhere(D d, M mask, hn::Vec<D> v, hn::TFromD<D>* dst) {
+#if HWY_TARGET == HWY_AVX3_DL
+  hn::BlendedStore(v, mask, d, dst);
+#else
+  hn::StoreU(hn::IfThenElse(mask, v, hn::LoadU(d, dst)), d, dst);
+#endif
 }
 
 // Indices that repeat the first kPixel of 16 bytes, long enough to load a vector from any byte of

@@ -51,9 +51,9 @@ struct SwapChoice {
     const hn::RebindToSigned<D> di;
     const auto table = hn::LoadDup128(d, distance);
     ShuffleIndices<Map, D> out;
-    unrolled<Plan::kVectors>([&](auto v) HWY_ATTR {
+    unrolled<Plan::kVectors>([&](auto v) KELI_LAMBDA {
       const auto add = hn::TableLookupBytes(table, hn::LoadU(d, kPlaces<Plan, kN>[v].inPixel));
-      unrolled<Plan::kWindows>([&](auto w) HWY_ATTR {
+      unrolled<Plan::kWindows>([&](auto w) KELI_LAMBDA {
         const auto place = hn::Add(hn::LoadU(d, kPlaces<Plan, kN>[v].inWindow[w]), add);
         const auto beyond = hn::Gt(hn::BitCast(di, place), hn::Set(di, std::int8_t{15}));
         out.of[v][w] = hn::Or(place, hn::BitCast(d, hn::VecFromMask(di, beyond)));
