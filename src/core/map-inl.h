@@ -39,9 +39,9 @@ struct KeepNone {
   HWY_INLINE Nothing at(D, std::size_t) const {
     return {};
   }
-  template <class D, class V, class T>
-  HWY_INLINE V merge(D, Nothing, V v, const T*) const {
-    return v;
+  template <class D>
+  HWY_INLINE void put(D d, Nothing, hn::Vec<D> v, hn::TFromD<D>* dst) const {
+    hn::StoreU(v, d, dst);
   }
 };
 
@@ -56,9 +56,9 @@ struct KeepOthers {
   HWY_INLINE auto at(D d, std::size_t phase) const {
     return cycleMask<kCycle, kUsed>(d, phase);
   }
-  template <class D, class M, class V, class T>
-  HWY_INLINE V merge(D d, M mask, V v, const T* dst) const {
-    return hn::IfThenElse(mask, v, hn::LoadU(d, dst));
+  template <class D, class M>
+  HWY_INLINE void put(D d, M mask, hn::Vec<D> v, hn::TFromD<D>* dst) const {
+    storeWhere(d, mask, v, dst);
   }
 };
 
@@ -85,9 +85,8 @@ struct Row {
   }
 
   template <class D>
-  static HWY_INLINE auto compute(D d, const Op& op, const Vector<D>& k, const TD* dst,
-                                 const TS*... src) {
-    return Keep().merge(d, k.keep, op.vector(d, k.op, hn::LoadU(hn::Rebind<TS, D>(), src)...), dst);
+  static HWY_INLINE hn::Vec<D> compute(D d, const Op& op, const Vector<D>& k, const TS*... src) {
+    return op.vector(d, k.op, hn::LoadU(hn::Rebind<TS, D>(), src)...);
   }
 
   static HWY_INLINE void samples(const Op& op, std::size_t phase, std::size_t n, TD* dst,
@@ -105,7 +104,8 @@ struct Row {
     constexpr std::size_t kN = hn::MaxLanes(D());
     constexpr std::size_t kUnroll = Op::kUnroll;
     const std::size_t end = n - kN;
-    const auto last = compute(d, op, at(d, op, (phase + end) % kPeriod), dst + end, (src + end)...);
+    const Vector<D> kLast = at(d, op, (phase + end) % kPeriod);
+    const hn::Vec<D> last = compute(d, op, kLast, (src + end)...);
     // Every kDistinct-th vector starts at the same phase.
     constexpr std::size_t kDistinct = kN % kPeriod == 0 ? 1 : kPeriod;
     Vector<D> k[kDistinct];
@@ -114,23 +114,24 @@ struct Row {
     for (; i + kUnroll * kN <= end; i += kUnroll * kN) {
       hn::Vec<D> v[kUnroll];
       unrolled<kUnroll>([&](auto u) KELI_LAMBDA {
-        v[u] = compute(d, op, k[u % kDistinct], dst + i + u * kN, (src + i + u * kN)...);
+        v[u] = compute(d, op, k[u % kDistinct], (src + i + u * kN)...);
       });
       unrolled<kUnroll>([&](auto u) KELI_LAMBDA {
         if constexpr (kStreams) {
           hn::Stream(v[u], d, dst + i + u * kN);
         } else {
-          hn::StoreU(v[u], d, dst + i + u * kN);
+          Keep().put(d, k[u % kDistinct].keep, v[u], dst + i + u * kN);
         }
       });
     }
     unrolled<kUnroll>([&](auto u) KELI_LAMBDA {
       if (i < end) {
-        hn::StoreU(compute(d, op, k[u % kDistinct], dst + i, (src + i)...), d, dst + i);
+        const Vector<D>& here = k[u % kDistinct];
+        Keep().put(d, here.keep, compute(d, op, here, (src + i)...), dst + i);
         i += kN;
       }
     });
-    hn::StoreU(last, d, dst + end);
+    Keep().put(d, kLast.keep, last, dst + end);
   }
 
   // Fewer samples than two vectors of kBytes.
@@ -141,9 +142,10 @@ struct Row {
     if (n >= kN) {
       const D d;
       const std::size_t end = n - kN;
-      const auto last = compute(d, op, at(d, op, end % kPeriod), dst + end, (src + end)...);
-      if (end != 0) hn::StoreU(compute(d, op, at(d, op, 0), dst, src...), d, dst);
-      hn::StoreU(last, d, dst + end);
+      const Vector<D> kFirst = at(d, op, 0), kLast = at(d, op, end % kPeriod);
+      const hn::Vec<D> last = compute(d, op, kLast, (src + end)...);
+      if (end != 0) Keep().put(d, kFirst.keep, compute(d, op, kFirst, src...), dst);
+      Keep().put(d, kLast.keep, last, dst + end);
     } else if constexpr (kBytes > 4 && kBytes / 2 >= kWidest) {
       shorter<kBytes / 2>(op, n, dst, src...);
     } else {

@@ -28,11 +28,11 @@ struct Move {
     return false;
   }
 
-  // Bytes of kept samples, for the destination of one step.
+  // All bits of the bytes that are written, for the destination of one step.
   template <std::size_t kBytes>
-  static constexpr std::array<std::uint8_t, kBytes> keepPattern() {
+  static constexpr std::array<std::uint8_t, kBytes> writtenPattern() {
     std::array<std::uint8_t, kBytes> a{};
-    for (std::size_t i = 0; i < kBytes; ++i) a[i] = Map::kept(i % Map::kDst) ? 0xFF : 0;
+    for (std::size_t i = 0; i < kBytes; ++i) a[i] = Map::kept(i % Map::kDst) ? 0 : 0xFF;
     return a;
   }
 
@@ -54,29 +54,25 @@ struct Move {
   struct Step {
     static constexpr std::size_t kN = hn::MaxLanes(D());
     using Plan = ShufflePlan<Map, kN>;
-    static constexpr auto kKept = keepPattern<Plan::kVectors * kN>();
+    static constexpr auto kWritten = writtenPattern<Plan::kVectors * kN>();
 
     hn::Vec<D> v[Plan::kVectors];
 
-    HWY_INLINE void load(const std::uint8_t* src, const std::uint8_t* dst,
-                         const ShuffleIndices<Map, D>& indices) {
-      const D d;
-      unrolled<Plan::kVectors>([&](auto i) KELI_LAMBDA {
-        v[i] = shuffled<i>(d, src, indices);
-        if constexpr (keepsSome()) {
-          const auto kept = hn::MaskFromVec(hn::LoadU(d, kKept.data() + i * kN));
-          v[i] = hn::IfThenElse(kept, hn::LoadU(d, dst + i * kN), v[i]);
-        }
-      });
+    HWY_INLINE void load(const std::uint8_t* src, const ShuffleIndices<Map, D>& indices) {
+      unrolled<Plan::kVectors>([&](auto i) KELI_LAMBDA { v[i] = shuffled<i>(D(), src, indices); });
     }
 
     template <bool kStreams>
     HWY_INLINE void store(std::uint8_t* dst) const {
+      const D d;
       unrolled<Plan::kVectors>([&](auto i) KELI_LAMBDA {
-        if constexpr (kStreams) {
-          hn::Stream(v[i], D(), dst + i * kN);
+        if constexpr (keepsSome()) {
+          const auto written = hn::MaskFromVec(hn::LoadU(d, kWritten.data() + i * kN));
+          storeWhere(d, written, v[i], dst + i * kN);
+        } else if constexpr (kStreams) {
+          hn::Stream(v[i], d, dst + i * kN);
         } else {
-          hn::StoreU(v[i], D(), dst + i * kN);
+          hn::StoreU(v[i], d, dst + i * kN);
         }
       });
     }
@@ -89,10 +85,10 @@ struct Move {
     constexpr std::size_t kPixels = Step<D>::Plan::kPixels;
     const std::size_t end = n - kPixels;
     Step<D> last;
-    last.load(src + end * Map::kSrc, dst + end * Map::kDst, indices);
+    last.load(src + end * Map::kSrc, indices);
     for (std::size_t x = 0; x < end; x += kPixels) {
       Step<D> step;
-      step.load(src + x * Map::kSrc, dst + x * Map::kDst, indices);
+      step.load(src + x * Map::kSrc, indices);
       step.template store<kStreams>(dst + x * Map::kDst);
     }
     last.template store<false>(dst + end * Map::kDst);
@@ -115,7 +111,8 @@ struct Move {
   // A row of n whole pixels in blocks, not in place: at least a step of 16-byte vectors, which ends
   // it.
   static HWY_INLINE void blocks(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
-                                hn::Vec<BlockTag> block, const ShuffleIndices<Map, D16>& indices) {
+                                hn::Vec<BlockTag> block,
+                                const ShuffleIndices<Map, D16>& indices) {
     constexpr std::size_t kEnd = Step<D16>::Plan::kPixels;
     const BlockTag d;
     const std::size_t end = n - kEnd;
@@ -128,7 +125,7 @@ struct Move {
     }
     for (; x < end; x += Block::kPixels) move(x);
     Step<D16> last;
-    last.load(src + end * Map::kSrc, dst + end * Map::kDst, indices);
+    last.load(src + end * Map::kSrc, indices);
     last.template store<false>(dst + end * Map::kDst);
   }
 

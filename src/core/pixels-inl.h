@@ -33,8 +33,7 @@ struct Pixels {
 
   static constexpr std::size_t kPlanesIn = isPlanar(kFrom) ? kIn : 1;
   static constexpr std::size_t kPlanesOut = isPlanar(kTo) ? kOut : 1;
-  // AC4's fourth samples are read with the others and written back.
-  static constexpr bool kReadsBack = kTo == Layout::AC4;
+  static constexpr bool kKeepsFourth = kTo == Layout::AC4;
 
   // Vectors of the pixels from x on.
   template <class D>
@@ -57,32 +56,41 @@ struct Pixels {
 
   template <bool kStreams, class D>
   static HWY_INLINE void put(D d, hn::Vec<D> v, TD* dst) {
-    if constexpr (kStreams) {
+    if constexpr (kKeepsFourth) {
+      storeWhere(d, cycleMask<4, 3>(d, 0), v, dst);
+    } else if constexpr (kStreams) {
       hn::Stream(v, d, dst);
     } else {
       hn::StoreU(v, d, dst);
     }
   }
 
-  template <bool kStreams, class D>
-  static HWY_INLINE void storePixels(D d, const std::array<hn::Vec<D>, kOut>& v, Destination dst,
-                                     std::size_t x) {
+  template <class D>
+  using Channels = std::array<hn::Vec<D>, kOut>;
+
+  // The pixels of kCount vectors that follow one another. Those of a plane are stored together: half
+  // cache lines in turns would cost a third of the speed.
+  template <bool kStreams, std::size_t kCount, class D>
+  static HWY_INLINE void storePixels(D d, const Channels<D> (&v)[kCount], Destination dst, std::size_t x) {
     constexpr std::size_t kN = hn::MaxLanes(D());
     if constexpr (isPlanar(kTo) || kTo == Layout::C1) {
-      unrolled<kOut>([&](auto k) KELI_LAMBDA { put<kStreams>(d, v[k], dst[k] + x); });
-    } else if constexpr (pixelSamples(kTo) == 3) {
-      hn::Vec<D> out[3];
-      interleave3(d, {v[0], v[1], v[2]}, out);
-      unrolled<3>([&](auto j) KELI_LAMBDA { put<kStreams>(d, out[j], dst[0] + 3 * x + j * kN); });
+      unrolled<kOut>([&](auto k) KELI_LAMBDA {
+        unrolled<kCount>([&](auto c) KELI_LAMBDA { put<kStreams>(d, v[c][k], dst[k] + x + c * kN); });
+      });
     } else {
-      hn::Vec<D> in[4], out[4];
-      unrolled<kOut>([&](auto k) KELI_LAMBDA { in[k] = v[k]; });
-      if constexpr (kReadsBack) {
-        hn::Vec<D> other;
-        hn::LoadInterleaved4(d, dst[0] + 4 * x, other, other, other, in[3]);
-      }
-      interleave4(d, in, out);
-      unrolled<4>([&](auto j) KELI_LAMBDA { put<kStreams>(d, out[j], dst[0] + 4 * x + j * kN); });
+      constexpr std::size_t kSamples = pixelSamples(kTo);
+      unrolled<kCount>([&](auto c) KELI_LAMBDA {
+        hn::Vec<D> in[kSamples], out[kSamples];
+        unrolled<kSamples>([&](auto k) KELI_LAMBDA { in[k] = v[c][k < kOut ? k : 0]; });
+        if constexpr (kSamples == 3) {
+          interleave3(d, in, out);
+        } else {
+          interleave4(d, in, out);
+        }
+        unrolled<kSamples>([&](auto j) KELI_LAMBDA {
+          put<kStreams>(d, out[j], dst[0] + kSamples * (x + c * kN) + j * kN);
+        });
+      });
     }
   }
 
@@ -110,9 +118,16 @@ struct Pixels {
     constexpr std::size_t kN = hn::MaxLanes(D());
     if (n >= kN) {
       const std::size_t end = n - kN;
-      const auto last = op.vector(d, loadPixels(ds, src, end));
-      for (std::size_t x = 0; x < end; x += kN) {
-        storePixels<kStreams>(d, op.vector(d, loadPixels(ds, src, x)), dst, x);
+      const Channels<D> last[1] = {op.vector(d, loadPixels(ds, src, end))};
+      std::size_t x = 0;
+      for (; x + 2 * kN <= end; x += 2 * kN) {
+        const Channels<D> two[2] = {op.vector(d, loadPixels(ds, src, x)),
+                                    op.vector(d, loadPixels(ds, src, x + kN))};
+        storePixels<kStreams>(d, two, dst, x);
+      }
+      for (; x < end; x += kN) {
+        const Channels<D> one[1] = {op.vector(d, loadPixels(ds, src, x))};
+        storePixels<false>(d, one, dst, x);
       }
       storePixels<false>(d, last, dst, end);
     } else if constexpr (kBytes > 8 && kBytes / 2 > kWidest) {
@@ -153,7 +168,7 @@ struct Pixels {
       TD* restDst[4] = {};
       for (std::size_t k = 0; k < kPlanesIn; ++k) restSrc[k] = src[k] + pixelSamples(kFrom) * head;
       for (std::size_t k = 0; k < kPlanesOut; ++k) restDst[k] = dst[k] + pixelSamples(kTo) * head;
-      if (streams && !kReadsBack) {
+      if (streams && !kKeepsFourth) {
         vectors<true, kVectorBytes>(op, restSrc, restDst, n - head);
       } else {
         vectors<false, kVectorBytes>(op, restSrc, restDst, n - head);
