@@ -86,7 +86,17 @@ struct Move {
     const std::size_t end = n - kPixels;
     Step<D> last;
     last.load(src + end * Map::kSrc, indices);
-    for (std::size_t x = 0; x < end; x += kPixels) {
+    std::size_t x = 0;
+    // Of an odd number of vectors, two at a time: whole cache lines where the first starts one.
+    constexpr bool kPairs = Step<D>::Plan::kVectors == 3;
+    for (; kPairs && x + 2 * kPixels <= end; x += 2 * kPixels) {
+      Step<D> one, two;
+      one.load(src + x * Map::kSrc, indices);
+      two.load(src + (x + kPixels) * Map::kSrc, indices);
+      one.template store<kStreams>(dst + x * Map::kDst);
+      two.template store<kStreams>(dst + (x + kPixels) * Map::kDst);
+    }
+    for (; x < end; x += kPixels) {
       Step<D> step;
       step.load(src + x * Map::kSrc, indices);
       step.template store<kStreams>(dst + x * Map::kDst);
@@ -148,42 +158,43 @@ struct Move {
     return n;
   }
 
-  // A long row, stored around the caches but for what comes before its first line.
-  template <class Choice>
-  static HWY_INLINE void streamed(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
-                                  const Choice& choice, const ShuffleIndices<Map, D16>& indices,
-                                  const ShuffleIndices<Map, D32>& wide) {
+  // A long row: as in map-inl.h, its first pixels are set apart up to a cache line.
+  template <bool kStreams, class Choice>
+  static HWY_INLINE void onLines(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
+                                 const Choice& choice, const ShuffleIndices<Map, D16>& indices,
+                                 const ShuffleIndices<Map, D32>& wide) {
     const std::size_t head = pixelsToLine(dst, n);
     if (head != 0) row(src, dst, head, choice, indices);
     if (head == n) return;
     src += head * Map::kSrc;
     dst += head * Map::kDst;
     const std::size_t whole = n - head - (Map::kWhole ? 0 : 1);
-    steps<true>(D32(), src, dst, whole, wide);
+    steps<kStreams>(D32(), src, dst, whole, wide);
     pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, n - head - whole, choice);
   }
 
   template <class Choice>
   static HWY_INLINE void band(const Band<1>& b, const Choice& choice) {
-    constexpr std::size_t kLong = 256;
+    constexpr std::size_t kLong = 4096 / Map::kDst;
+    static_assert(kLong >= 64 + 1 + Step<D32>::Plan::kPixels, "after its head a row has a step left");
     const ShuffleIndices<Map, D16> indices = choice.indices(D16());
     const ShuffleIndices<Map, D32> wide = choice.indices(D32());
     const hn::Vec<BlockTag> block = choice.block(BlockTag());
     const bool inBlocks = prefersBlocks() && b.src[0] != b.dst;
+    const std::size_t whole = Map::kWhole ? b.n : b.n - 1;
     for (std::size_t y = 0; y < b.rows; ++y) {
       const std::uint8_t* src = b.srcRow<std::uint8_t>(0, y);
       std::uint8_t* dst = b.dstRow<std::uint8_t>(y);
-      const std::size_t whole = Map::kWhole ? b.n : b.n - 1;
-      if (!keepsSome() && b.streams && b.n >= kLong) {
-        streamed(src, dst, b.n, choice, indices, wide);
+      if (b.streams && b.n >= kLong) {
+        onLines<true>(src, dst, b.n, choice, indices, wide);
       } else if (inBlocks && whole >= Step<D16>::Plan::kPixels) {
         blocks(src, dst, whole, block, indices);
-        if constexpr (!Map::kWhole)
-          pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, 1, choice);
-      } else if (!inBlocks && whole >= Step<D32>::Plan::kPixels) {
+        pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, b.n - whole, choice);
+      } else if (b.n >= kLong) {
+        onLines<false>(src, dst, b.n, choice, indices, wide);
+      } else if (whole >= Step<D32>::Plan::kPixels) {
         steps<false>(D32(), src, dst, whole, wide);
-        if constexpr (!Map::kWhole)
-          pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, 1, choice);
+        pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, b.n - whole, choice);
       } else {
         row(src, dst, b.n, choice, indices);
       }

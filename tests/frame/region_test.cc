@@ -6,6 +6,7 @@
 
 #include <functional>
 
+#include "core/cache.h"
 #include "core/parallel.h"
 #include "support/targets.h"
 #include "support/test_call.h"
@@ -59,6 +60,39 @@ constexpr Geometry kGeometries[] = {
     {0, 3, 7, Place::kEnd, 0},     {0, 2, 3, Place::kStart, 0},  {0, 1, 0, Place::kStart, 0},
     {0, 3, 32, Place::kMiddle, 3}, {0, 1, 0, Place::kEnd, 0},    {0, 2, 64, Place::kMiddle, 17},
 };
+
+// Stores around the caches from the first byte on while it lives, as for the largest images.
+class StreamEverything {
+ public:
+  StreamEverything() : before_(gStreamAbove) { gStreamAbove = 1; }
+  ~StreamEverything() { gStreamAbove = before_; }
+  StreamEverything(const StreamEverything&) = delete;
+  StreamEverything& operator=(const StreamEverything&) = delete;
+
+ private:
+  std::size_t before_;
+};
+
+TEST(Region, SameResultStoredAroundTheCaches) {
+  const std::uint64_t seed = runSeed();
+  forEachImageFunction([&](const Function& f) {
+    for (const int width : {1, 45, 700, 1501, 4400}) {
+      for (const auto& [padding, offset] : {std::pair{0, 0}, {0, 32}, {3, 4}, {5, 1}}) {
+        const Geometry g = {width, 3, padding, Place::kMiddle, offset};
+        const Outcome expected = outcomeOf(f, g, seed);
+        for (const std::int64_t target : testedTargets()) {
+          const UseTarget use(target);
+          const StreamEverything stream;
+          const Outcome o = outcomeOf(f, g, seed);
+          ASSERT_EQ(o.status, expected.status) << f.name;
+          ASSERT_TRUE(o.samples == expected.samples)
+              << f.name << " " << targetName(target) << " width " << width << " padding "
+              << padding << " offset " << offset;
+        }
+      }
+    }
+  });
+}
 
 TEST(Region, SameResultAtEveryPlaceOnEveryTarget) {
   const std::vector<std::int64_t> targets = testedTargets();
