@@ -134,7 +134,7 @@ struct Row {
     Keep().put(d, kLast.keep, last, dst + end);
   }
 
-  // Fewer samples than two vectors of kBytes.
+  // At most two vectors of kBytes.
   template <std::size_t kBytes>
   static HWY_INLINE void shorter(const Op& op, std::size_t n, TD* dst, const TS*... src) {
     using D = hn::CappedTag<TD, kBytes / kWidest>;
@@ -162,25 +162,24 @@ struct Row {
       constexpr std::size_t kVectorBytes = std::min(HWY_MAX_BYTES, 32);
       using D = hn::CappedTag<TD, kVectorBytes / kWidest>;
       constexpr std::size_t kN = hn::MaxLanes(D());
-      constexpr std::size_t kLine = 64;
+      // Narrow results fill no lines; two vectors are one, or half of one on 16-byte targets.
+      constexpr bool kWhole = kN * sizeof(TD) == kVectorBytes;
+      constexpr std::size_t kLine = 2 * kVectorBytes;
       constexpr std::size_t kLong = 1024 / sizeof(TD);
       const std::size_t misaligned = reinterpret_cast<std::uintptr_t>(dst) % kLine;
+      std::size_t head = 0;
       if (n < 2 * kN) {
-        shorter<kVectorBytes>(op, n, dst, src...);
-      } else if (n < kLong || misaligned % sizeof(TD) != 0) {
-        vectors<false>(D(), op, 0, n, dst, src...);
+        head = n;
+      } else if (kWhole && n >= kLong && misaligned % sizeof(TD) == 0) {
+        head = (kLine - misaligned) % kLine / sizeof(TD);
+      }
+      if (head != 0) shorter<kVectorBytes>(op, head, dst, src...);
+      if (head == n) return;
+      const bool aligned = (misaligned + head * sizeof(TD)) % kLine == 0;
+      if (Keep::kPeriod == 1 && kWhole && streams && aligned) {
+        vectors<true>(D(), op, head % kPeriod, n - head, dst + head, (src + head)...);
       } else {
-        const std::size_t head = (kLine - misaligned) % kLine / sizeof(TD);
-        if (head >= kN) {
-          vectors<false>(D(), op, 0, head, dst, src...);
-        } else if (head != 0) {
-          shorter<kVectorBytes / 2>(op, head, dst, src...);
-        }
-        if (Keep::kPeriod == 1 && streams) {
-          vectors<true>(D(), op, head % kPeriod, n - head, dst + head, (src + head)...);
-        } else {
-          vectors<false>(D(), op, head % kPeriod, n - head, dst + head, (src + head)...);
-        }
+        vectors<false>(D(), op, head % kPeriod, n - head, dst + head, (src + head)...);
       }
     }
   }

@@ -73,7 +73,8 @@ struct Masked {
       if constexpr (kUsed < kPixel) {
         wanted = hn::IfThenElseZero(cycleMask<kPixel, kUsed>(d, v * kN % kPixel), wanted);
       }
-      storeWhere(d, hn::Ne(wanted, hn::Zero(d)), source.vector(d, v, x * kPixel + v * kN), out + v * kN);
+      storeWhere(d, hn::Ne(wanted, hn::Zero(d)), source.vector(d, v, x * kPixel + v * kN),
+                 out + v * kN);
     });
   }
 
@@ -89,8 +90,10 @@ struct Masked {
     for (; kUnroll > 1 && x + kUnroll * kPixels <= end; x += kUnroll * kPixels) {
       unrolled<kUnroll>([&](auto u) KELI_LAMBDA { step(d, mask, source, dst, x + u * kPixels); });
     }
-    for (; x < end; x += kPixels) step(d, mask, source, dst, x);
-    step(d, mask, source, dst, end);
+    for (;; x = std::min(x + kPixels, end)) {
+      step(d, mask, source, dst, x);
+      if (x == end) break;
+    }
     return true;
   }
 

@@ -37,8 +37,8 @@ struct Move {
   }
 
   template <class Choice>
-  static HWY_INLINE void pixels(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
-                                const Choice& choice) {
+  static HWY_NOINLINE void pixels(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
+                                  const Choice& choice) {
     for (std::size_t x = 0; x < n; ++x, src += Map::kSrc, dst += Map::kDst) {
       std::uint8_t moved[Map::kDst];
       for (std::size_t j = 0; j < Map::kDst; ++j) {
@@ -109,8 +109,8 @@ struct Move {
   using BlockTag = std::conditional_t<kPermutesBytes, D32, D16>;
   using Block = BlockPlan<Map, hn::MaxLanes(BlockTag())>;
 
-  // Blocks beat steps that put vectors together from several windows, if they waste little of a store;
-  // one that starts before the last step must lie within the row.
+  // Blocks beat steps that put vectors together from several windows, if they waste little of a
+  // store; one that starts before the last step must lie within the row.
   static constexpr bool prefersBlocks() {
     constexpr std::size_t kLanes = hn::MaxLanes(BlockTag());
     constexpr std::size_t kEnd = Step<D16>::Plan::kPixels;
@@ -121,8 +121,7 @@ struct Move {
   // A row of n whole pixels in blocks, not in place: at least a step of 16-byte vectors, which ends
   // it.
   static HWY_INLINE void blocks(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
-                                hn::Vec<BlockTag> block,
-                                const ShuffleIndices<Map, D16>& indices) {
+                                hn::Vec<BlockTag> block, const ShuffleIndices<Map, D16>& indices) {
     constexpr std::size_t kEnd = Step<D16>::Plan::kPixels;
     const BlockTag d;
     const std::size_t end = n - kEnd;
@@ -141,8 +140,8 @@ struct Move {
 
   // A row of any length.
   template <class Choice>
-  static HWY_INLINE void row(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
-                             const Choice& choice, const ShuffleIndices<Map, D16>& indices) {
+  static HWY_NOINLINE void row(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
+                               const Choice& choice, const ShuffleIndices<Map, D16>& indices) {
     const std::size_t whole = Map::kWhole ? n : n - 1;
     if (whole < Step<D16>::Plan::kPixels) return pixels(src, dst, n, choice);
     steps<false>(D16(), src, dst, whole, indices);
@@ -158,46 +157,43 @@ struct Move {
     return n;
   }
 
-  // A long row: as in map-inl.h, its first pixels are set apart up to a cache line.
-  template <bool kStreams, class Choice>
-  static HWY_INLINE void onLines(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
-                                 const Choice& choice, const ShuffleIndices<Map, D16>& indices,
-                                 const ShuffleIndices<Map, D32>& wide) {
-    const std::size_t head = pixelsToLine(dst, n);
-    if (head != 0) row(src, dst, head, choice, indices);
-    if (head == n) return;
-    src += head * Map::kSrc;
-    dst += head * Map::kDst;
-    const std::size_t whole = n - head - (Map::kWhole ? 0 : 1);
-    steps<kStreams>(D32(), src, dst, whole, wide);
-    pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, n - head - whole, choice);
-  }
-
   template <class Choice>
   static HWY_INLINE void band(const Band<1>& b, const Choice& choice) {
     constexpr std::size_t kLong = 4096 / Map::kDst;
-    static_assert(kLong >= 64 + 1 + Step<D32>::Plan::kPixels, "after its head a row has a step left");
+    static_assert(kLong >= 64 + 1 + Step<D32>::Plan::kPixels, "a step is left after the head");
     const ShuffleIndices<Map, D16> indices = choice.indices(D16());
     const ShuffleIndices<Map, D32> wide = choice.indices(D32());
-    const hn::Vec<BlockTag> block = choice.block(BlockTag());
-    const bool inBlocks = prefersBlocks() && b.src[0] != b.dst;
-    const std::size_t whole = Map::kWhole ? b.n : b.n - 1;
+    const bool inBlocks = prefersBlocks() && !b.streams && b.src[0] != b.dst;
     for (std::size_t y = 0; y < b.rows; ++y) {
       const std::uint8_t* src = b.srcRow<std::uint8_t>(0, y);
       std::uint8_t* dst = b.dstRow<std::uint8_t>(y);
-      if (b.streams && b.n >= kLong) {
-        onLines<true>(src, dst, b.n, choice, indices, wide);
-      } else if (inBlocks && whole >= Step<D16>::Plan::kPixels) {
-        blocks(src, dst, whole, block, indices);
-        pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, b.n - whole, choice);
-      } else if (b.n >= kLong) {
-        onLines<false>(src, dst, b.n, choice, indices, wide);
-      } else if (whole >= Step<D32>::Plan::kPixels) {
-        steps<false>(D32(), src, dst, whole, wide);
-        pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, b.n - whole, choice);
-      } else {
-        row(src, dst, b.n, choice, indices);
+      std::size_t n = b.n;
+      bool onLine = false;
+      // As in map-inl.h, a long row's first pixels are set apart up to a cache line.
+      if (n >= kLong && !inBlocks) {
+        const std::size_t head = pixelsToLine(dst, n);
+        onLine = head != n;
+        if (onLine && head != 0) {
+          row(src, dst, head, choice, indices);
+          src += head * Map::kSrc;
+          dst += head * Map::kDst;
+          n -= head;
+        }
       }
+      const std::size_t whole = Map::kWhole ? n : n - 1;
+      if (whole < Step<D32>::Plan::kPixels) {
+        row(src, dst, n, choice, indices);
+        continue;
+      }
+      if (!keepsSome() && b.streams && onLine) {
+        steps<!keepsSome()>(D32(), src, dst, whole, wide);
+      } else if (inBlocks) {
+        if constexpr (prefersBlocks()) blocks(src, dst, whole, choice.block(BlockTag()), indices);
+      } else {
+        steps<false>(D32(), src, dst, whole, wide);
+      }
+      if constexpr (!Map::kWhole)
+        pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, 1, choice);
     }
     if (b.streams) hwy::FlushStream();
   }

@@ -68,14 +68,16 @@ struct Pixels {
   template <class D>
   using Channels = std::array<hn::Vec<D>, kOut>;
 
-  // The pixels of kCount vectors that follow one another. Those of a plane are stored together: half
-  // cache lines in turns would cost a third of the speed.
+  // The pixels of kCount vectors that follow one another. Those of a plane are stored together:
+  // half cache lines in turns would cost a third of the speed.
   template <bool kStreams, std::size_t kCount, class D>
-  static HWY_INLINE void storePixels(D d, const Channels<D> (&v)[kCount], Destination dst, std::size_t x) {
+  static HWY_INLINE void storePixels(D d, const Channels<D> (&v)[kCount], Destination dst,
+                                     std::size_t x) {
     constexpr std::size_t kN = hn::MaxLanes(D());
     if constexpr (isPlanar(kTo) || kTo == Layout::C1) {
       unrolled<kOut>([&](auto k) KELI_LAMBDA {
-        unrolled<kCount>([&](auto c) KELI_LAMBDA { put<kStreams>(d, v[c][k], dst[k] + x + c * kN); });
+        unrolled<kCount>([&](auto c)
+                             KELI_LAMBDA { put<kStreams>(d, v[c][k], dst[k] + x + c * kN); });
       });
     } else {
       constexpr std::size_t kSamples = pixelSamples(kTo);
@@ -111,7 +113,7 @@ struct Pixels {
 
   // Rows of at least a vector of pixels: the last is computed first and stored last.
   template <bool kStreams, std::size_t kBytes, class Op>
-  static HWY_INLINE void vectors(const Op& op, Source src, Destination dst, std::size_t n) {
+  static HWY_NOINLINE void vectors(const Op& op, Source src, Destination dst, std::size_t n) {
     using D = hn::CappedTag<TD, kBytes / kWidest>;
     const D d;
     const hn::Rebind<TS, D> ds;

@@ -120,8 +120,9 @@ struct ShuffleIndices {
   static HWY_INLINE ShuffleIndices fixed() {
     ShuffleIndices indices;
     unrolled<Plan::kVectors>([&](auto v) KELI_LAMBDA {
-      unrolled<Plan::kWindows>(
-          [&](auto w) KELI_LAMBDA { indices.of[v][w] = hn::LoadU(D(), Plan::kIndices[v][w].data()); });
+      unrolled<Plan::kWindows>([&](auto w) KELI_LAMBDA {
+        indices.of[v][w] = hn::LoadU(D(), Plan::kIndices[v][w].data());
+      });
     });
     return indices;
   }

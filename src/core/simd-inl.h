@@ -91,8 +91,8 @@ HWY_INLINE auto cycleMask(D d, std::size_t phase) {
       hn::BitCast(d, hn::LoadU(du, CyclePattern<T, kPeriod, kUsed>::kBits.data() + phase)));
 }
 
-// Stores the lanes of v that mask has; the others keep their values, read and written back where the
-// target has no stores under a mask.
+// Stores the lanes of v that mask has; the others keep their values, read and written back where
+// the target has no stores under a mask.
 template <class D, class M>
 HWY_INLINE void storeWhere(D d, M mask, hn::Vec<D> v, hn::TFromD<D>* dst) {
 #if HWY_TARGET == HWY_AVX3_DL

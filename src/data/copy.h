@@ -48,14 +48,14 @@ KelStatus copyPixels(CopyBand kernel, const T* src, int srcStep, std::size_t src
 
 template <class T, Layout kFrom>
 KelStatus extractChannel(const T* src, int srcStep, T* dst, int dstStep, KeliSize size) {
-  const CopyLayoutRows& rows = copyLayoutRows();
+  const CopyChannelsRows& rows = copyChannelsRows();
   return copyPixels<T>((kFrom == Layout::C3 ? rows.c3c1 : rows.c4c1).template get<T>(), src,
                        srcStep, pixelSamples(kFrom), dst, dstStep, 1, size);
 }
 
 template <class T, Layout kTo>
 KelStatus insertChannel(const T* src, int srcStep, T* dst, int dstStep, KeliSize size) {
-  const CopyLayoutRows& rows = copyLayoutRows();
+  const CopyChannelsRows& rows = copyChannelsRows();
   return copyPixels<T>((kTo == Layout::C3 ? rows.c1c3 : rows.c1c4).template get<T>(), src, srcStep,
                        1, dst, dstStep, pixelSamples(kTo), size);
 }
@@ -72,14 +72,15 @@ KelStatus copyChannel(const T* src, int srcStep, T* dst, int dstStep, KeliSize s
 // source and destination: a pointer to an image, or an array of pointers to planes.
 template <class T, Layout kFrom, Layout kTo, class Source, class Destination>
 KelStatus copyLayout(Source src, int srcStep, Destination dst, int dstStep, KeliSize size) {
-  const CopyLayoutRows& rows = copyLayoutRows();
   if constexpr (isPlanar(kFrom) || isPlanar(kTo)) {
+    const CopyPlanesRows& rows = copyPlanesRows();
     constexpr bool kThree = usedChannels(kFrom) == 3;
     const auto& kernels =
         isPlanar(kTo) ? (kThree ? rows.c3p3 : rows.c4p4) : (kThree ? rows.p3c3 : rows.p4c4);
     kernels.template get<T>()(makePlanesBand<kFrom, kTo, T, T>(src, srcStep, dst, dstStep, size));
     return kelStatusOk;
   } else {
+    const CopyChannelsRows& rows = copyChannelsRows();
     const auto& kernels = kFrom == Layout::AC4 ? rows.ac4c3 : rows.c3ac4;
     return copyPixels<T>(kernels.template get<T>(), src, srcStep, pixelSamples(kFrom), dst, dstStep,
                          pixelSamples(kTo), size);

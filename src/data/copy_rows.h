@@ -18,13 +18,16 @@ struct CopyRows {
 };
 
 // n counts pixels.
-struct CopyLayoutRows {
+struct CopyChannelsRows {
   BySize<CopyBand> c3c1;
   BySize<CopyBand> c4c1;
   BySize<CopyBand> c1c3;
   BySize<CopyBand> c1c4;
   BySize<CopyBand> ac4c3;
   BySize<CopyBand> c3ac4;
+};
+
+struct CopyPlanesRows {
   BySize<CopyPlanesBand> c3p3;
   BySize<CopyPlanesBand> c4p4;
   BySize<CopyPlanesBand> p3c3;
@@ -32,6 +35,7 @@ struct CopyLayoutRows {
 };
 
 const CopyRows& copyRows();
-const CopyLayoutRows& copyLayoutRows();
+const CopyChannelsRows& copyChannelsRows();
+const CopyPlanesRows& copyPlanesRows();
 
 }  // namespace keli::data

@@ -86,8 +86,8 @@ TEST(Region, SameResultStoredAroundTheCaches) {
           const Outcome o = outcomeOf(f, g, seed);
           ASSERT_EQ(o.status, expected.status) << f.name;
           ASSERT_TRUE(o.samples == expected.samples)
-              << f.name << " " << targetName(target) << " width " << width << " padding "
-              << padding << " offset " << offset;
+              << f.name << " " << targetName(target) << " width " << width << " padding " << padding
+              << " offset " << offset;
         }
       }
     }

@@ -1,4 +1,4 @@
-// Row kernels of Copy between layouts: channels move, their samples do not change.
+// Row kernels of Copy between interleaved layouts: channels change places, samples stay.
 #include "data/copy_rows.h"
 
 #define KELI_ENABLE_AVX512
@@ -6,11 +6,10 @@
 #include "core/target.h"
 
 #undef HWY_TARGET_INCLUDE
-#define HWY_TARGET_INCLUDE "data/copy_layout_rows.cc"
+#define HWY_TARGET_INCLUDE "data/copy_channels_rows.cc"
 #include <hwy/foreach_target.h>
 //
 #include "core/move-inl.h"
-#include "core/pixels-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
@@ -32,33 +31,10 @@ void ownCopyChannels(const Band<1>& b) {
   moveRows<ChannelMap<T, kFromChannels, kToChannels>>(b);
 }
 
-struct IdentityPixels {
-  template <class D, class In>
-  HWY_INLINE In vector(D, const In& in) const {
-    return in;
-  }
-  template <class In>
-  HWY_INLINE In scalar(const In& in) const {
-    return in;
-  }
-};
-
-template <class T, Layout kFrom, Layout kTo>
-void ownCopyPlanes(const PlanesBand& b) {
-  mapPixels<kFrom, kTo, T, T>(b, IdentityPixels());
-}
-
-const data::CopyLayoutRows kCopyLayoutRows = {
-    KELI_BY_SIZE(ownCopyChannels, 3, 1),
-    KELI_BY_SIZE(ownCopyChannels, 4, 1),
-    KELI_BY_SIZE(ownCopyChannels, 1, 3),
-    KELI_BY_SIZE(ownCopyChannels, 1, 4),
-    KELI_BY_SIZE(ownCopyChannels, 4, 3),
-    KELI_BY_SIZE(ownCopyChannels, 3, 4),
-    KELI_BY_SIZE(ownCopyPlanes, Layout::C3, Layout::P3),
-    KELI_BY_SIZE(ownCopyPlanes, Layout::C4, Layout::P4),
-    KELI_BY_SIZE(ownCopyPlanes, Layout::P3, Layout::C3),
-    KELI_BY_SIZE(ownCopyPlanes, Layout::P4, Layout::C4),
+const data::CopyChannelsRows kCopyChannelsRows = {
+    KELI_BY_SIZE(ownCopyChannels, 3, 1), KELI_BY_SIZE(ownCopyChannels, 4, 1),
+    KELI_BY_SIZE(ownCopyChannels, 1, 3), KELI_BY_SIZE(ownCopyChannels, 1, 4),
+    KELI_BY_SIZE(ownCopyChannels, 4, 3), KELI_BY_SIZE(ownCopyChannels, 3, 4),
 };
 
 }  // namespace keli::HWY_NAMESPACE
@@ -66,6 +42,6 @@ HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
 namespace keli::data {
-KELI_SELECT_ROWS(CopyLayoutRows, kCopyLayoutRows, copyLayoutRows)
+KELI_SELECT_ROWS(CopyChannelsRows, kCopyChannelsRows, copyChannelsRows)
 }  // namespace keli::data
 #endif
