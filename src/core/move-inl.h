@@ -2,7 +2,8 @@
 //
 // Beside what shuffle-inl.h asks of a Map, it has
 //   kept(j)    whether destination byte j of a pixel keeps its value
-//   kWhole     whether a row's last pixel has all its kSrc and kDst bytes: where an image is given by
+//   kWhole     whether a row's last pixel has all its kSrc and kDst bytes: where an image is given
+//   by
 //              a pointer to one of its channels, it ends with that channel's sample
 #if defined(KELI_CORE_MOVE_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_CORE_MOVE_INL_H_

@@ -35,8 +35,8 @@ TEST(Scale, AgreesWithTheDefinition) {
     for (int i = 0; i < 2000; ++i) {
       const std::int64_t wide = static_cast<std::int64_t>(random()) >> pick(random, 64);
       // Values at and around ties.
-      const std::int64_t tie = (2 * (wide % 1000) + 1)
-                               << (scaleFactor > 0 && scaleFactor < 50 ? scaleFactor - 1 : 0);
+      const int half = scaleFactor > 0 && scaleFactor < 50 ? scaleFactor - 1 : 0;
+      const std::int64_t tie = (2 * (wide % 1000) + 1) * (std::int64_t{1} << half);
       for (const std::int64_t v : {wide, tie, tie - 1, tie + 1, std::int64_t{0}}) {
         check<Kel8u>(v, scaleFactor);
         check<Kel16u>(v, scaleFactor);
