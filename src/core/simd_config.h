@@ -1,8 +1,8 @@
-// Which targets the rows files are compiled for: scalar, SSE4 and AVX2 on x86, NEON on AArch64. To
-// be included before anything of hwy. A file for which AVX-512 measures at least 10 % faster
-// defines KELI_ENABLE_AVX512 before it: masked and merging instructions on 32-byte vectors, and
-// shuffles across them, of the processors from Ice Lake and Zen 4 on. KELI_AVX2_ONLY drops all but
-// scalar and AVX2, for quick builds.
+// Which targets the rows files are compiled for: scalar, SSE4 and AVX2. To be included before
+// anything of hwy. A file for which AVX-512 measures at least 10 % faster defines
+// KELI_ENABLE_AVX512 before it: masked and merging instructions on 32-byte vectors, and shuffles
+// across them, of the processors from Ice Lake and Zen 4 on. KELI_AVX2_ONLY drops all but scalar
+// and AVX2, for quick builds.
 #pragma once
 
 #if defined(__x86_64__) || defined(__i386__)
