@@ -122,6 +122,7 @@ struct Row {
         } else {
           Keep().put(d, k[u % kDistinct].keep, v[u], dst + i + u * kN);
         }
+        keepOrder();
       });
     }
     unrolled<kUnroll>([&](auto u) KELI_LAMBDA {

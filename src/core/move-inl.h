@@ -74,6 +74,7 @@ struct Move {
         } else {
           hn::StoreU(v[i], d, dst + i * kN);
         }
+        keepOrder();
       });
     }
   };

@@ -63,6 +63,7 @@ struct Pixels {
     } else {
       hn::StoreU(v, d, dst);
     }
+    keepOrder();
   }
 
   template <class D>

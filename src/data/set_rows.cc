@@ -22,6 +22,8 @@ struct Fill {
   const std::uint8_t* pixel;
   template <class D>
   HWY_INLINE hn::Vec<D> at(D d, std::size_t phase) const {
+    // A load of all 16 bytes would wait for the caller's stores of some of them.
+    if constexpr (kChannels == 1) return hn::Set(d, scalar(0));
     return repeatPixel<kChannels * sizeof(T)>(d, pixel, phase * sizeof(T));
   }
   template <class D, class V>
