@@ -32,6 +32,16 @@ struct Band {
   }
 };
 
+// How many units of so many bytes lie before the first that starts a cache line, or n if none does.
+inline std::size_t unitsToLine(const void* p, std::size_t unitBytes, std::size_t n) {
+  constexpr std::size_t kLine = 64;
+  const std::uintptr_t address = reinterpret_cast<std::uintptr_t>(p);
+  for (std::size_t x = 0; x < kLine; ++x) {
+    if ((address + x * unitBytes) % kLine == 0) return x;
+  }
+  return n;
+}
+
 inline const std::uint8_t* bytes(const void* p) { return static_cast<const std::uint8_t*>(p); }
 inline std::uint8_t* bytes(void* p) { return static_cast<std::uint8_t*>(p); }
 

@@ -149,15 +149,6 @@ struct Move {
     pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, n - whole, choice);
   }
 
-  // Pixels before the first that starts a cache line of the destination, or n if none does.
-  static HWY_INLINE std::size_t pixelsToLine(const std::uint8_t* dst, std::size_t n) {
-    constexpr std::size_t kLine = 64;
-    for (std::size_t x = 0; x < kLine; ++x) {
-      if (reinterpret_cast<std::uintptr_t>(dst + x * Map::kDst) % kLine == 0) return x;
-    }
-    return n;
-  }
-
   template <class Choice>
   static HWY_INLINE void band(const Band<1>& b, const Choice& choice) {
     constexpr std::size_t kLong = 4096 / Map::kDst;
@@ -172,7 +163,7 @@ struct Move {
       bool onLine = false;
       // As in map-inl.h, a long row's first pixels are set apart up to a cache line.
       if (n >= kLong && !inBlocks) {
-        const std::size_t head = pixelsToLine(dst, n);
+        const std::size_t head = unitsToLine(dst, Map::kDst, n);
         onLine = head != n;
         if (onLine && head != 0) {
           row(src, dst, head, choice, indices);

@@ -17,6 +17,7 @@
 
 #include <hwy/cache_control.h>
 
+#include "core/band.h"
 #include "core/interleave-inl.h"
 #include "core/planes.h"
 
@@ -142,16 +143,11 @@ struct Pixels {
 
   // Pixels before the first at which every plane of the destination starts a cache line, or n.
   static HWY_INLINE std::size_t pixelsToLine(Destination dst, std::size_t n) {
-    constexpr std::size_t kLine = 64;
-    for (std::size_t x = 0; x < kLine; ++x) {
-      bool aligned = true;
-      for (std::size_t k = 0; k < kPlanesOut; ++k) {
-        aligned = aligned &&
-                  reinterpret_cast<std::uintptr_t>(dst[k] + pixelSamples(kTo) * x) % kLine == 0;
-      }
-      if (aligned) return x;
+    const std::size_t x = unitsToLine(dst[0], pixelSamples(kTo) * sizeof(TD), n);
+    for (std::size_t k = 1; k < kPlanesOut; ++k) {
+      if (unitsToLine(dst[k], sizeof(TD), n) != x) return n;
     }
-    return n;
+    return x;
   }
 
   // As in map-inl.h, long rows are set on cache lines, and then stored around the caches if asked
