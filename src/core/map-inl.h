@@ -104,8 +104,8 @@ struct Row {
     constexpr std::size_t kN = hn::MaxLanes(D());
     constexpr std::size_t kUnroll = Op::kUnroll;
     const std::size_t end = n - kN;
-    const Vector<D> kLast = at(d, op, (phase + end) % kPeriod);
-    const hn::Vec<D> last = compute(d, op, kLast, (src + end)...);
+    const Vector<D> atLast = at(d, op, (phase + end) % kPeriod);
+    const hn::Vec<D> last = compute(d, op, atLast, (src + end)...);
     // Every kDistinct-th vector starts at the same phase.
     constexpr std::size_t kDistinct = kN % kPeriod == 0 ? 1 : kPeriod;
     Vector<D> k[kDistinct];
@@ -132,7 +132,7 @@ struct Row {
         i += kN;
       }
     });
-    Keep().put(d, kLast.keep, last, dst + end);
+    Keep().put(d, atLast.keep, last, dst + end);
   }
 
   // At most two vectors of kBytes.
@@ -143,10 +143,10 @@ struct Row {
     if (n >= kN) {
       const D d;
       const std::size_t end = n - kN;
-      const Vector<D> kFirst = at(d, op, 0), kLast = at(d, op, end % kPeriod);
-      const hn::Vec<D> last = compute(d, op, kLast, (src + end)...);
-      if (end != 0) Keep().put(d, kFirst.keep, compute(d, op, kFirst, src...), dst);
-      Keep().put(d, kLast.keep, last, dst + end);
+      const Vector<D> atFirst = at(d, op, 0), atLast = at(d, op, end % kPeriod);
+      const hn::Vec<D> last = compute(d, op, atLast, (src + end)...);
+      if (end != 0) Keep().put(d, atFirst.keep, compute(d, op, atFirst, src...), dst);
+      Keep().put(d, atLast.keep, last, dst + end);
     } else if constexpr (kBytes > 4 && kBytes / 2 >= kWidest) {
       shorter<kBytes / 2>(op, n, dst, src...);
     } else {
