@@ -83,7 +83,7 @@ struct Masked {
                                std::uint8_t* dst, std::size_t n) {
     using Plan = ShufflePlan<Spread, hn::MaxLanes(D())>;
     constexpr std::size_t kPixels = Plan::kPixels;
-    constexpr std::size_t kUnroll = Plan::kVectors == 1 ? 4 : 1;
+    constexpr std::size_t kUnroll = Plan::kVectors == 1 ? 4 : Plan::kVectors == 3 ? 2 : 1;
     if (n < kPixels) return false;
     const std::size_t end = n - kPixels;
     std::size_t x = 0;
