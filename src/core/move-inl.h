@@ -107,23 +107,23 @@ struct Move {
 
   using D16 = hn::CappedTag<std::uint8_t, 16>;
   using D32 = hn::CappedTag<std::uint8_t, 32>;
-  using BlockTag = std::conditional_t<kPermutesBytes, D32, D16>;
+  using BlockTag = std::conditional_t<kPermutesBytes, hn::CappedTag<std::uint8_t, 64>, D16>;
   using Block = BlockPlan<Map, hn::MaxLanes(BlockTag())>;
 
   // Blocks beat steps that put vectors together from several windows, if they waste little of a
   // store; one that starts before the last step must lie within the row.
   static constexpr bool prefersBlocks() {
     constexpr std::size_t kLanes = hn::MaxLanes(BlockTag());
-    constexpr std::size_t kEnd = Step<D16>::Plan::kPixels;
+    constexpr std::size_t kEnd = Step<D32>::Plan::kPixels;
     return !keepsSome() && 4 * Block::kBytes >= 3 * kLanes &&
            kEnd * std::min(Map::kSrc, Map::kDst) >= kLanes;
   }
 
-  // A row of n whole pixels in blocks, not in place: at least a step of 16-byte vectors, which ends
-  // it.
+  // A row of n whole pixels in blocks, not in place: at least a step, which ends it. The one use of
+  // 64-byte vectors: overlapping stores straddle lines anyway, and fewer of them do.
   static HWY_INLINE void blocks(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
-                                hn::Vec<BlockTag> block, const ShuffleIndices<Map, D16>& indices) {
-    constexpr std::size_t kEnd = Step<D16>::Plan::kPixels;
+                                hn::Vec<BlockTag> block, const ShuffleIndices<Map, D32>& indices) {
+    constexpr std::size_t kEnd = Step<D32>::Plan::kPixels;
     const BlockTag d;
     const std::size_t end = n - kEnd;
     const auto move = [&](std::size_t x) KELI_LAMBDA {
@@ -134,7 +134,7 @@ struct Move {
       unrolled<4>([&](auto u) KELI_LAMBDA { move(x + u * Block::kPixels); });
     }
     for (; x < end; x += Block::kPixels) move(x);
-    Step<D16> last;
+    Step<D32> last;
     last.load(src + end * Map::kSrc, indices);
     last.template store<false>(dst + end * Map::kDst);
   }
@@ -180,7 +180,7 @@ struct Move {
       if (!keepsSome() && b.streams && onLine) {
         steps<!keepsSome()>(D32(), src, dst, whole, wide);
       } else if (inBlocks) {
-        if constexpr (prefersBlocks()) blocks(src, dst, whole, choice.block(BlockTag()), indices);
+        if constexpr (prefersBlocks()) blocks(src, dst, whole, choice.block(BlockTag()), wide);
       } else {
         steps<false>(D32(), src, dst, whole, wide);
       }

@@ -163,10 +163,10 @@ struct BlockPlan {
   static constexpr std::array<std::uint8_t, kN> kIndices = makeIndices();
 };
 
-// Shuffles the bytes of a whole vector: of 16, or of 32 where the target can.
+// Shuffles the bytes of a whole vector: of 16, or of 64 where the target can.
 template <class D>
 HWY_INLINE hn::Vec<D> shuffleAll(D d, hn::Vec<D> bytes, hn::Vec<D> indices) {
-  if constexpr (kPermutesBytes && hn::MaxLanes(D()) == 32) {
+  if constexpr (kPermutesBytes && hn::MaxLanes(D()) >= 32) {
     return permuteBytes(d, bytes, indices);
   } else {
     return hn::TableLookupBytes(bytes, indices);

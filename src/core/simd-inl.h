@@ -29,12 +29,16 @@ constexpr bool kScalarTarget = true;
 constexpr bool kScalarTarget = false;
 #endif
 
-// Shuffles of bytes across a vector of 32 bytes.
+// Shuffles of bytes across a vector of 32 or 64 bytes.
 #if HWY_TARGET == HWY_AVX3_DL
 constexpr bool kPermutesBytes = true;
 template <class D>
 HWY_INLINE hn::Vec<D> permuteBytes(D, hn::Vec<D> bytes, hn::Vec<D> indices) {
-  return hn::Vec<D>{_mm256_permutexvar_epi8(indices.raw, bytes.raw)};
+  if constexpr (hn::MaxLanes(D()) == 64) {
+    return hn::Vec<D>{_mm512_permutexvar_epi8(indices.raw, bytes.raw)};
+  } else {
+    return hn::Vec<D>{_mm256_permutexvar_epi8(indices.raw, bytes.raw)};
+  }
 }
 #else
 constexpr bool kPermutesBytes = false;
