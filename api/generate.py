@@ -83,6 +83,7 @@ def exports(table):
                 if text:
                     out.append(f"  if ({text}) return {status};")
             code = {"T": kel(f.types[0]), "D": kel(f.types[-1])} if f.types else {}
+            code |= {"operation": f.operation, "team": f.team}
             if f.layouts:
                 code |= {"layout": f.layouts[0], "from": f.layouts[0], "to": f.layouts[-1]}
             call = f"{entry['calls'].format(**code)}({', '.join(f.actuals)})"
@@ -143,9 +144,8 @@ def registry(tables, statuses):
     out += ["};", "", "const Function kFunctions[] = {"]
     index = {id(e): i for i, (_, e) in enumerate(entries)}
     for f, begin in zip(functions, first_argument):
-        operation = re.match(r"keli([^_]+)", f.name)[1]
         flags = [str(f.in_place).lower(), str("M" in f.descriptor).lower()]
-        out.append(f"    {{{c_string(f.name)}, {c_string(operation)}, {c_string(f.descriptor)}, "
+        out.append(f"    {{{c_string(f.name)}, {c_string(f.operation)}, {c_string(f.descriptor)}, "
                    f"{c_string(f.prototype)}, &kEntries[{index[id(f.entry)]}], "
                    f"{{kArguments + {begin}, {len(f.arguments)}}}, {', '.join(flags)}, "
                    f"makeCall(&{f.name})}},")

@@ -11,7 +11,7 @@ from dataclasses import dataclass, field
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-TABLES = ["core", "data"]
+TABLES = ["core", "data", "arith"]
 
 # Names whose role needs no mention in a table; every other argument is written name:role[:type].
 ROLE_OF_NAME = {
@@ -21,6 +21,8 @@ ROLE_OF_NAME = {
 }
 IMAGES = {"source", "destination", "inOut", "mask", "sourceChannel", "destinationChannel"}
 WRITTEN = {"destination", "destinationChannel", "inOut"}
+# One value for C1, an array of one for each channel otherwise: of this type, or of the samples'.
+CONSTANTS = {"constant": "", "shift": "32u"}
 LAYOUT = re.compile(r"A?[CP]\d")
 DESCRIPTOR = re.compile(r"((?:A?[CP]\d){1,2})(C?)(I?)(M?)(R?)(Sfs)?")
 TYPE_CODE = re.compile(r"\d+(?:uc|sc|fc|u|s|f)")
@@ -61,6 +63,15 @@ class Function:
     returns: str = "KelStatus"
 
     @property
+    def operation(self):
+        return re.match(r"keli([^_]+)", self.name)[1]
+
+    @property
+    def team(self):
+        """How the frame walks the rows."""
+        return "Team::kThreads" if self.name in self.entry.get("parallel", []) else "Team::kCaller"
+
+    @property
     def prototype(self):
         arguments = ", ".join(a.declaration for a in self.arguments) or "void"
         return f"{self.returns} {self.name}({arguments})"
@@ -74,7 +85,7 @@ class Function:
 
 
 def kel(code):
-    return f"Kel{code}"
+    return "uint32_t" if code == "32u" else f"Kel{code}"
 
 
 def used_channels(layout):
@@ -99,8 +110,8 @@ def make_argument(word, types, layouts):
             return Argument(name, role, f"{const}{kel(code)}* const", f"[{layout[-1]}]", code,
                             layout)
         return Argument(name, role, f"{const}{kel(code)}*", "", code, layout)
-    if role == "constant":
-        code = given or first
+    if role in CONSTANTS:
+        code = given or CONSTANTS[role] or first
         if layouts[0] == "C1":
             return Argument(name, role, kel(code), "", code)
         return Argument(name, role, f"const {kel(code)}", f"[{used_channels(layouts[0])}]", code)
@@ -159,9 +170,24 @@ def names_of(function, role):
     return ", ".join(a.name for a in function.arguments if a.role == role)
 
 
+def over_channels(function):
+    """Whether the function is its one-channel member over more samples."""
+    return function.layouts[0] in ("C3", "C4")
+
+
+def divisor_condition(function):
+    divisor = next(a for a in function.arguments if a.role == "constant")
+    return f"anyZero({divisor.name}, {divisor.array.strip('[]') or 1})" if divisor.array else \
+        f"isZero({divisor.name})"
+
+
 # Check word: (status name, text for the documentation, condition that fails; "" = not applicable).
 CHECKS = {
     "null": ("kelStatusNullPointer", "a pointer is null", null_condition),
+    "width": ("kelStatusBadSize", "the width is below 1 (C3 and C4)",
+              lambda f: f"badWidth({names_of(f, 'region')})" if over_channels(f) else ""),
+    "area": ("kelStatusBadSize", "roiSize is below 1 in width or height (C3 and C4)",
+             lambda f: f"badSize({names_of(f, 'region')})" if over_channels(f) else ""),
     "size": ("kelStatusBadSize", "roiSize is below 1 in width or height",
              lambda f: f"badSize({names_of(f, 'region')})"),
     "step": ("kelStatusBadStep", "a step is below 1",
@@ -169,6 +195,8 @@ CHECKS = {
     "values": ("kelStatusNullPointer", "the array of values is null",
                lambda f: next((f"anyNull({a.name})" for a in f.arguments
                                if a.role == "constant" and a.array), "")),
+    "divisor": ("kelStatusDivisorZero", "the constant, or one of its channels, is 0",
+                divisor_condition),
     "order": ("kelStatusBadChannelOrder", "an entry of dstOrder is outside 0..2",
               lambda f: f"badChannelOrder({names_of(f, 'order')})"),
 }
@@ -215,6 +243,9 @@ def load():
             if unknown:
                 raise SystemExit(f"api/{name}.toml: unknown checks {sorted(unknown)}")
             entry["functions"] = list(expand(entry))
+            unknown = set(entry.get("parallel", [])) - {f.name for f in entry["functions"]}
+            if unknown:
+                raise SystemExit(f"api/{name}.toml: unknown parallel members {sorted(unknown)}")
         tables.append(table)
     names = [f.name for t in tables for e in t["entry"] for f in e["functions"]]
     if len(names) != len(set(names)):

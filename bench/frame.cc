@@ -184,6 +184,7 @@ void Frame::addArgument(const Argument& argument) {
   Value value{};
   switch (argument.role) {
     case Role::kConstant:
+    case Role::kShift:
     case Role::kScalar:
       return addConstant(argument);
     case Role::kStep:

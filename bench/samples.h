@@ -20,6 +20,8 @@ auto withComponent(registry::Type type, const Body& body) {
     case Type::k16s:
     case Type::k16sc:
       return body(std::int16_t{});
+    case Type::k32u:
+      return body(std::uint32_t{});
     case Type::k32s:
     case Type::k32sc:
       return body(std::int32_t{});

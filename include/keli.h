@@ -359,6 +359,381 @@ KELI_API KelStatus keliSwapChannels_32s_AC4R(const Kel32s* pSrc, int srcStep, Ke
 KELI_API KelStatus keliSwapChannels_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const int dstOrder[3]);
 KELI_API KelStatus keliSwapChannels_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const int dstOrder[3]);
 
+/* ==== Addition, subtraction, multiplication ==== */
+
+/**
+ * Adds two images.
+ *
+ *     dst = (src1 + src2) * 2^-scaleFactor
+ *
+ * The exact sum is scaled, rounded to the nearest integer with ties to even, and saturated. Any
+ * scale factor is valid: above 9 (8u) or 16 (16s) every result is 0, and the sources are not
+ * read. In place the result replaces the second source. AC4 leaves the fourth sample of every
+ * pixel as it was.
+ *
+ * Checks, in order: kelStatusBadSize if the width is below 1 (C3 and C4); kelStatusNullPointer
+ * if a pointer is null; kelStatusBadSize if roiSize is below 1 in width or height;
+ * kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliAdd_8u_C1RSfs(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_8u_C3RSfs(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_8u_C4RSfs(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_8u_AC4RSfs(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_8u_C1IRSfs(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_8u_C3IRSfs(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_8u_C4IRSfs(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_8u_AC4IRSfs(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_16s_C1RSfs(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_16s_C3RSfs(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_16s_C4RSfs(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_16s_AC4RSfs(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_16s_C1IRSfs(const Kel16s* pSrc, int srcStep, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_16s_C3IRSfs(const Kel16s* pSrc, int srcStep, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_16s_C4IRSfs(const Kel16s* pSrc, int srcStep, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_16s_AC4IRSfs(const Kel16s* pSrc, int srcStep, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Adds two floating-point images.
+ *
+ *     dst = src1 + src2
+ *
+ * One rounding to single precision, as IEEE 754 defines the operation; no saturation. In place
+ * the result replaces the second source. AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusBadSize if the width is below 1 (C3 and C4); kelStatusNullPointer
+ * if a pointer is null; kelStatusBadSize if roiSize is below 1 in width or height;
+ * kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliAdd_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAdd_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAdd_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAdd_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAdd_32f_C1IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAdd_32f_C3IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAdd_32f_C4IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAdd_32f_AC4IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Subtracts the first image from the second.
+ *
+ *     dst = (src2 - src1) * 2^-scaleFactor
+ *
+ * The exact difference, the second operand minus the first, is scaled, rounded to the nearest
+ * integer with ties to even, and saturated: for 8u, negative differences give 0. Any scale
+ * factor is valid: above 8 (8u) or 16 (16s) every result is 0, and the sources are not read. In
+ * place the result replaces the second source: srcDst - src. AC4 leaves the fourth sample of
+ * every pixel as it was.
+ *
+ * Checks, in order: kelStatusBadSize if the width is below 1 (C3 and C4); kelStatusNullPointer
+ * if a pointer is null; kelStatusBadSize if roiSize is below 1 in width or height;
+ * kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSub_8u_C1RSfs(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_8u_C3RSfs(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_8u_C4RSfs(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_8u_AC4RSfs(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_8u_C1IRSfs(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_8u_C3IRSfs(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_8u_C4IRSfs(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_8u_AC4IRSfs(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_16s_C1RSfs(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_16s_C3RSfs(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_16s_C4RSfs(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_16s_AC4RSfs(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_16s_C1IRSfs(const Kel16s* pSrc, int srcStep, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_16s_C3IRSfs(const Kel16s* pSrc, int srcStep, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_16s_C4IRSfs(const Kel16s* pSrc, int srcStep, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_16s_AC4IRSfs(const Kel16s* pSrc, int srcStep, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Subtracts the first floating-point image from the second.
+ *
+ *     dst = src2 - src1
+ *
+ * One rounding to single precision, as IEEE 754 defines the operation; no saturation. In place
+ * the result replaces the second source: srcDst - src. AC4 leaves the fourth sample of every
+ * pixel as it was.
+ *
+ * Checks, in order: kelStatusBadSize if the width is below 1 (C3 and C4); kelStatusNullPointer
+ * if a pointer is null; kelStatusBadSize if roiSize is below 1 in width or height;
+ * kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSub_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSub_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSub_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSub_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSub_32f_C1IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSub_32f_C3IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSub_32f_C4IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSub_32f_AC4IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Multiplies two images.
+ *
+ *     dst = src1 * src2 * 2^-scaleFactor
+ *
+ * The exact product is scaled, rounded to the nearest integer with ties to even, and saturated.
+ * Any scale factor is valid: above 16 (8u) or 30 (16s) every result is 0, and the sources are
+ * not read. In place the result replaces the second source. AC4 leaves the fourth sample of
+ * every pixel as it was.
+ *
+ * Checks, in order: kelStatusBadSize if the width is below 1 (C3 and C4); kelStatusNullPointer
+ * if a pointer is null; kelStatusBadSize if roiSize is below 1 in width or height;
+ * kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMul_8u_C1RSfs(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_8u_C3RSfs(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_8u_C4RSfs(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_8u_AC4RSfs(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_8u_C1IRSfs(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_8u_C3IRSfs(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_8u_C4IRSfs(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_8u_AC4IRSfs(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_16s_C1RSfs(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_16s_C3RSfs(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_16s_C4RSfs(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_16s_AC4RSfs(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_16s_C1IRSfs(const Kel16s* pSrc, int srcStep, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_16s_C3IRSfs(const Kel16s* pSrc, int srcStep, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_16s_C4IRSfs(const Kel16s* pSrc, int srcStep, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_16s_AC4IRSfs(const Kel16s* pSrc, int srcStep, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Multiplies two floating-point images.
+ *
+ *     dst = src1 * src2
+ *
+ * One rounding to single precision, as IEEE 754 defines the operation; no saturation. In place
+ * the result replaces the second source. AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusBadSize if the width is below 1 (C3 and C4); kelStatusNullPointer
+ * if a pointer is null; kelStatusBadSize if roiSize is below 1 in width or height;
+ * kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMul_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMul_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMul_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMul_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMul_32f_C1IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMul_32f_C3IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMul_32f_C4IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMul_32f_AC4IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Adds a constant to an image.
+ *
+ *     dst = (src + value) * 2^-scaleFactor
+ *
+ * The constant is one value for C1, and an array of one value for each channel otherwise (three
+ * for C3 and AC4, four for C4). The exact sum is scaled, rounded to the nearest integer with
+ * ties to even, and saturated. Any scale factor is valid: above 9 (8u) or 16 (16s) every result
+ * is 0, and the source is not read. AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliAddC_8u_C1RSfs(const Kel8u* pSrc, int srcStep, Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_8u_C3RSfs(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_8u_C4RSfs(const Kel8u* pSrc, int srcStep, const Kel8u value[4], Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_8u_AC4RSfs(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_8u_C1IRSfs(Kel8u value, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_8u_C3IRSfs(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_8u_C4IRSfs(const Kel8u value[4], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_8u_AC4IRSfs(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_16s_C1RSfs(const Kel16s* pSrc, int srcStep, Kel16s value, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_16s_C3RSfs(const Kel16s* pSrc, int srcStep, const Kel16s value[3], Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_16s_C4RSfs(const Kel16s* pSrc, int srcStep, const Kel16s value[4], Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_16s_AC4RSfs(const Kel16s* pSrc, int srcStep, const Kel16s value[3], Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_16s_C1IRSfs(Kel16s value, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_16s_C3IRSfs(const Kel16s value[3], Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_16s_C4IRSfs(const Kel16s value[4], Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_16s_AC4IRSfs(const Kel16s value[3], Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Adds a constant to a floating-point image.
+ *
+ *     dst = src + value
+ *
+ * The constant is one value for C1, and an array of one value for each channel otherwise (three
+ * for C3 and AC4, four for C4). One rounding to single precision, as IEEE 754 defines the
+ * operation. AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliAddC_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f value, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAddC_32f_C3R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAddC_32f_C4R(const Kel32f* pSrc, int srcStep, const Kel32f value[4], Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAddC_32f_AC4R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAddC_32f_C1IR(Kel32f value, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAddC_32f_C3IR(const Kel32f value[3], Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAddC_32f_C4IR(const Kel32f value[4], Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAddC_32f_AC4IR(const Kel32f value[3], Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Subtracts a constant from an image.
+ *
+ *     dst = (src - value) * 2^-scaleFactor
+ *
+ * The constant is one value for C1, and an array of one value for each channel otherwise (three
+ * for C3 and AC4, four for C4). The exact difference is scaled, rounded to the nearest integer
+ * with ties to even, and saturated: for 8u, negative differences give 0. Any scale factor is
+ * valid: above 8 (8u) or 16 (16s) every result is 0, and the source is not read. AC4 leaves the
+ * fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSubC_8u_C1RSfs(const Kel8u* pSrc, int srcStep, Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_8u_C3RSfs(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_8u_C4RSfs(const Kel8u* pSrc, int srcStep, const Kel8u value[4], Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_8u_AC4RSfs(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_8u_C1IRSfs(Kel8u value, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_8u_C3IRSfs(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_8u_C4IRSfs(const Kel8u value[4], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_8u_AC4IRSfs(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_16s_C1RSfs(const Kel16s* pSrc, int srcStep, Kel16s value, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_16s_C3RSfs(const Kel16s* pSrc, int srcStep, const Kel16s value[3], Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_16s_C4RSfs(const Kel16s* pSrc, int srcStep, const Kel16s value[4], Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_16s_AC4RSfs(const Kel16s* pSrc, int srcStep, const Kel16s value[3], Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_16s_C1IRSfs(Kel16s value, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_16s_C3IRSfs(const Kel16s value[3], Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_16s_C4IRSfs(const Kel16s value[4], Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_16s_AC4IRSfs(const Kel16s value[3], Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Subtracts a constant from a floating-point image.
+ *
+ *     dst = src - value
+ *
+ * The constant is one value for C1, and an array of one value for each channel otherwise (three
+ * for C3 and AC4, four for C4). One rounding to single precision, as IEEE 754 defines the
+ * operation. AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSubC_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f value, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSubC_32f_C3R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSubC_32f_C4R(const Kel32f* pSrc, int srcStep, const Kel32f value[4], Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSubC_32f_AC4R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSubC_32f_C1IR(Kel32f value, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSubC_32f_C3IR(const Kel32f value[3], Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSubC_32f_C4IR(const Kel32f value[4], Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSubC_32f_AC4IR(const Kel32f value[3], Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Multiplies an image by a constant.
+ *
+ *     dst = src * value * 2^-scaleFactor
+ *
+ * The constant is one value for C1, and an array of one value for each channel otherwise (three
+ * for C3 and AC4, four for C4). The exact product is scaled, rounded to the nearest integer
+ * with ties to even, and saturated. Any scale factor is valid: above 16 (8u) or 30 (16s) every
+ * result is 0, and the source is not read. AC4 leaves the fourth sample of every pixel as it
+ * was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMulC_8u_C1RSfs(const Kel8u* pSrc, int srcStep, Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_8u_C3RSfs(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_8u_C4RSfs(const Kel8u* pSrc, int srcStep, const Kel8u value[4], Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_8u_AC4RSfs(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_8u_C1IRSfs(Kel8u value, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_8u_C3IRSfs(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_8u_C4IRSfs(const Kel8u value[4], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_8u_AC4IRSfs(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_16s_C1RSfs(const Kel16s* pSrc, int srcStep, Kel16s value, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_16s_C3RSfs(const Kel16s* pSrc, int srcStep, const Kel16s value[3], Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_16s_C4RSfs(const Kel16s* pSrc, int srcStep, const Kel16s value[4], Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_16s_AC4RSfs(const Kel16s* pSrc, int srcStep, const Kel16s value[3], Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_16s_C1IRSfs(Kel16s value, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_16s_C3IRSfs(const Kel16s value[3], Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_16s_C4IRSfs(const Kel16s value[4], Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_16s_AC4IRSfs(const Kel16s value[3], Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Multiplies a floating-point image by a constant.
+ *
+ *     dst = src * value
+ *
+ * The constant is one value for C1, and an array of one value for each channel otherwise (three
+ * for C3 and AC4, four for C4). One rounding to single precision, as IEEE 754 defines the
+ * operation. AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMulC_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f value, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulC_32f_C3R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulC_32f_C4R(const Kel32f* pSrc, int srcStep, const Kel32f value[4], Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulC_32f_AC4R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulC_32f_C1IR(Kel32f value, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulC_32f_C3IR(const Kel32f value[3], Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulC_32f_C4IR(const Kel32f value[4], Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulC_32f_AC4IR(const Kel32f value[3], Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Multiplies two images and divides by the largest value of their type.
+ *
+ *     dst = floor(src1 * src2 / max), max = 255 (8u) or 65535 (16u)
+ *
+ * Values are fractions of max: max times a sample is that sample, and no product overflows.
+ * With t = src1 * src2 the result is (t + 1 + (t >> bits)) >> bits for bits = 8 or 16, which is
+ * the quotient rounded down. In place the result replaces the second source. AC4 leaves the
+ * fourth sample of every pixel as it was. Steps are checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliMulScale_8u_C1R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_8u_C3R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_8u_C4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_8u_AC4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_8u_C1IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_8u_C3IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_8u_C4IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_8u_AC4IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_16u_C1R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_16u_C3R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_16u_C4R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_16u_AC4R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_16u_C1IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_16u_C3IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_16u_C4IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulScale_16u_AC4IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Multiplies an image by a constant and divides by the largest value of the type.
+ *
+ *     dst = floor(src * value / max), max = 255 (8u) or 65535 (16u)
+ *
+ * The constant is one value for C1, and an array of one value for each channel otherwise (three
+ * for C3 and AC4, four for C4). With t = src * value the result is (t + 1 + (t >> bits)) >>
+ * bits for bits = 8 or 16, which is the quotient rounded down. AC4 leaves the fourth sample of
+ * every pixel as it was. Steps are checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliMulCScale_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_8u_C3R(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_8u_C4R(const Kel8u* pSrc, int srcStep, const Kel8u value[4], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_8u_AC4R(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_8u_C1IR(Kel8u value, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_8u_C3IR(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_8u_C4IR(const Kel8u value[4], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_8u_AC4IR(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_16u_C1R(const Kel16u* pSrc, int srcStep, Kel16u value, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_16u_C3R(const Kel16u* pSrc, int srcStep, const Kel16u value[3], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_16u_C4R(const Kel16u* pSrc, int srcStep, const Kel16u value[4], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_16u_AC4R(const Kel16u* pSrc, int srcStep, const Kel16u value[3], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_16u_C1IR(Kel16u value, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_16u_C3IR(const Kel16u value[3], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_16u_C4IR(const Kel16u value[4], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulCScale_16u_AC4IR(const Kel16u value[3], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+
 #ifdef __cplusplus
 }
 #endif

@@ -124,12 +124,9 @@ void printArgument(const Argument& a) {
 }
 
 void printChecks(const Function& f) {
-  bool hasArray = std::any_of(f.arguments.begin(), f.arguments.end(), [](const Argument& a) {
-    return a.role == registry::Role::kConstant && a.length;
-  });
   int number = 0;
   for (registry::Check check : f.entry->checks) {
-    if (check == registry::Check::kValues && !hasArray) continue;
+    if (!registry::makes(f, check)) continue;
     registry::CheckInfo info = registry::about(check);
     if (!number) std::printf("\nchecks, in order:\n");
     std::printf("  %d. %s (%d) if %s\n", ++number, registry::statusName(info.status),

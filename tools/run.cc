@@ -25,7 +25,7 @@ bool isInput(Role role) {
 }
 
 bool isParameter(Role role) {
-  return role == Role::kConstant || role == Role::kScalar || role == Role::kScaleFactor ||
+  return registry::isConstant(role) || role == Role::kScalar || role == Role::kScaleFactor ||
          role == Role::kOrder;
 }
 

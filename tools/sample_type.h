@@ -24,6 +24,8 @@ auto withSampleType(registry::Type type, Visit visit) {
       return visit(Kel16u{});
     case Type::k16s:
       return visit(Kel16s{});
+    case Type::k32u:
+      return visit(std::uint32_t{});
     case Type::k32s:
       return visit(Kel32s{});
     case Type::k64s:

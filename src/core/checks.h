@@ -23,12 +23,32 @@ inline bool anyPlaneNull(T* const* planes) {
 
 inline bool badSize(KeliSize size) { return size.width < 1 || size.height < 1; }
 
+inline bool badWidth(KeliSize size) { return size.width < 1; }
+
 template <class... Steps>
 inline bool anyBadStep(Steps... steps) {
   return (... || (steps < 1));
 }
 
+template <class T>
+inline bool isZero(T value) {
+  return value == T{0};
+}
+inline bool isZero(Kel16sc value) { return value.re == 0 && value.im == 0; }
+inline bool isZero(Kel32sc value) { return value.re == 0 && value.im == 0; }
+inline bool isZero(Kel32fc value) { return value.re == 0 && value.im == 0; }
+
 // Arrays stand at any address, as images do.
+template <class T>
+inline bool anyZero(const T* values, int count) {
+  for (int k = 0; k < count; ++k) {
+    T value;
+    std::memcpy(&value, values + k, sizeof(T));
+    if (isZero(value)) return true;
+  }
+  return false;
+}
+
 inline bool badChannelOrder(const int* order) {
   int o[3];
   std::memcpy(o, order, sizeof(o));

@@ -45,10 +45,10 @@ struct RowsTable {
 
 }  // namespace keli
 
-// In the part of a rows file that is compiled once: defines getter() from the object rows that
-// every target's namespace holds.
-#define KELI_SELECT_ROWS(Rows, rows, getter)                                         \
-  const Rows& getter() {                                                             \
+// In the part of a rows file that is compiled once: defines the function named last from the object
+// rows that every target's namespace holds.
+#define KELI_SELECT_ROWS(Rows, rows, ...)                                            \
+  const Rows& __VA_ARGS__() {                                                        \
     static constexpr const Rows* kCompiled[HWY_MAX_DYNAMIC_TARGETS + 1] = {          \
         HWY_CHOOSE_TARGET_LIST(rows), HWY_CHOOSE_FALLBACK(rows)};                    \
     static constexpr RowsTable<Rows, HWY_MAX_DYNAMIC_TARGETS + 1> kTable(kCompiled); \

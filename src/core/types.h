@@ -39,4 +39,9 @@ constexpr int usedChannels(Layout l) {
 // Samples from one pixel of a row to the next.
 constexpr int pixelSamples(Layout l) { return isPlanar(l) ? 1 : storedChannels(l); }
 
+template <Layout kLayout>
+constexpr std::size_t rowSamples(KeliSize size) {
+  return static_cast<std::size_t>(pixelSamples(kLayout)) * static_cast<std::size_t>(size.width);
+}
+
 }  // namespace keli

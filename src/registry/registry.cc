@@ -9,9 +9,9 @@ struct TypeInfo {
   std::size_t bytes;
 };
 
-constexpr TypeInfo kTypes[] = {{"", 0},    {"8u", 1},   {"8s", 1},   {"16u", 2},
-                               {"16s", 2}, {"32s", 4},  {"64s", 8},  {"32f", 4},
-                               {"64f", 8}, {"16sc", 4}, {"32sc", 8}, {"32fc", 8}};
+constexpr TypeInfo kTypes[] = {{"", 0},     {"8u", 1},   {"8s", 1},  {"16u", 2}, {"16s", 2},
+                               {"32u", 4},  {"32s", 4},  {"64s", 8}, {"32f", 4}, {"64f", 8},
+                               {"16sc", 4}, {"32sc", 8}, {"32fc", 8}};
 
 constexpr const char* kLayouts[] = {"C1", "C2", "C3", "C4", "AC4", "P2", "P3", "P4", "AP4"};
 
@@ -40,5 +40,18 @@ bool isImage(Role role) { return role <= Role::kMask; }
 bool isWritten(Role role) {
   return role == Role::kDestination || role == Role::kDestinationChannel || role == Role::kInOut;
 }
+
+bool makes(const Function& function, Check check) {
+  bool array = false, overChannels = false;
+  for (const Argument& a : function.arguments) {
+    array |= isConstant(a.role) && a.length != 0;
+    overChannels |= isImage(a.role) && (a.layout == Layout::C3 || a.layout == Layout::C4);
+  }
+  if (check == Check::kValues) return array;
+  if (check == Check::kWidth || check == Check::kArea) return overChannels;
+  return true;
+}
+
+bool isConstant(Role role) { return role == Role::kConstant || role == Role::kShift; }
 
 }  // namespace keli::registry

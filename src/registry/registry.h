@@ -18,6 +18,7 @@ enum class Type : std::uint8_t {
   k8s,
   k16u,
   k16s,
+  k32u,
   k32s,
   k64s,
   k32f,
@@ -39,6 +40,7 @@ enum class Role : std::uint8_t {
   kStep,      // bytes between the rows of the image before it in the list
   kRegion,    // KeliSize of all images
   kConstant,  // a value or, for several channels, an array of them
+  kShift,     // the same, counts of bits
   kScalar,    // a value, whatever the layout
   kScaleFactor,
   kOrder,    // three channel indexes
@@ -48,7 +50,8 @@ enum class Role : std::uint8_t {
   kUnread,   // accepted and ignored
 };
 
-enum class Check : std::uint8_t { kNull, kSize, kStep, kValues, kOrder };
+// kWidth and kArea are made by C3 and C4 alone, which are C1 over more samples.
+enum class Check : std::uint8_t { kNull, kWidth, kArea, kSize, kStep, kValues, kDivisor, kOrder };
 
 // What a check answers, and when.
 struct CheckInfo {
@@ -140,7 +143,10 @@ const char* nameOf(Type type);      // the type code: "8u"
 const char* nameOf(Layout layout);  // "AC4"
 const char* nameOf(Role role);      // as the tables write it: "sourceChannel"
 CheckInfo about(Check check);
+// Whether a member makes a check of its entry: some are for arrays, or for C3 and C4, alone.
+bool makes(const Function& function, Check check);
 bool isImage(Role role);
 bool isWritten(Role role);
+bool isConstant(Role role);  // one value, or one for each channel
 
 }  // namespace keli::registry

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cstring>
 
 #include "support/test_call.h"
 
@@ -35,6 +36,15 @@ const void* withNullPlane(const Value& planes, int count, int null) {
   return kept.back().get();
 }
 
+// Copies of constants of which one is zero; kept for the run of the test.
+const void* withZero(const Value& constants, std::size_t sample, int count, int zero) {
+  static std::vector<std::vector<std::uint8_t>> kept;
+  const auto* from = static_cast<const std::uint8_t*>(constants.p);
+  kept.emplace_back(from, from + sample * static_cast<std::size_t>(count));
+  std::memset(kept.back().data() + sample * static_cast<std::size_t>(zero), 0, sample);
+  return kept.back().data();
+}
+
 std::vector<Fault> faultsOf(const TestCall& call) {
   std::vector<Fault> faults;
   static constexpr int kBadOrders[][3] = {
@@ -62,6 +72,13 @@ std::vector<Fault> faultsOf(const TestCall& call) {
         add(" height bad", [&](Value& v) { v.size.height = bad; });
       }
     }
+    if (a.role == Role::kConstant && checksDivisor(call.function)) {
+      if (a.length == 0) add(" zero", [](Value& v) { v = Value{}; });
+      for (int k = 0; k < a.length; ++k) {
+        add(" with a zero",
+            [&](Value& v) { v.p = withZero(v, registry::bytesOf(a.type), a.length, k); });
+      }
+    }
     if (a.role == Role::kOrder) {
       for (const auto& bad : kBadOrders) add(" bad", [&](Value& v) { v.p = bad; });
     }
@@ -72,7 +89,7 @@ std::vector<Fault> faultsOf(const TestCall& call) {
 bool nullAmong(const TestCall& call, const std::vector<Value>& values, bool constants) {
   for (std::size_t i = 0; i < values.size(); ++i) {
     const Argument& a = call.function.arguments[i];
-    if (!isPointer(a) || (a.role == Role::kConstant) != constants) continue;
+    if (!isPointer(a) || registry::isConstant(a.role) != constants) continue;
     if (values[i].p == nullptr) return true;
     if (!registry::isImage(a.role) || !isPlanar(a.layout)) continue;
     for (int k = 0; k < usedChannels(a.layout); ++k) {
@@ -90,12 +107,43 @@ bool anyOf(const TestCall& call, Role role, Bad bad) {
   return false;
 }
 
+// Whether the function is its one-channel member over more samples.
+bool overChannels(const registry::Function& f) {
+  for (const Argument& a : f.arguments) {
+    if (registry::isImage(a.role)) return a.layout == Layout::C3 || a.layout == Layout::C4;
+  }
+  return false;
+}
+
+// A constant of which a channel has only zero bits, but for the sign of a float.
+bool zeroAmong(const TestCall& call, const std::vector<Value>& values) {
+  return anyOf(call, Role::kConstant, [&](std::size_t i) {
+    const Argument& a = call.function.arguments[i];
+    const std::size_t bytes = registry::bytesOf(a.type);
+    const auto* p = a.length != 0 ? static_cast<const std::uint8_t*>(values[i].p)
+                                  : reinterpret_cast<const std::uint8_t*>(&values[i]);
+    for (std::size_t k = 0; k < std::max<std::size_t>(1, static_cast<std::size_t>(a.length)); ++k) {
+      bool zero = true;
+      for (std::size_t j = 0; j < bytes; ++j) zero &= p[k * bytes + j] == 0;
+      if (zero) return true;
+    }
+    return false;
+  });
+}
+
 bool fails(const TestCall& call, const std::vector<Value>& values, Check check, bool lateValues) {
   switch (check) {
     case Check::kNull:
       return nullAmong(call, values, false) || (!lateValues && nullAmong(call, values, true));
     case Check::kValues:
       return nullAmong(call, values, true);
+    case Check::kWidth:
+      return overChannels(call.function) &&
+             anyOf(call, Role::kRegion, [&](std::size_t i) { return values[i].size.width < 1; });
+    case Check::kArea:
+      return overChannels(call.function) && fails(call, values, Check::kSize, lateValues);
+    case Check::kDivisor:
+      return zeroAmong(call, values);
     case Check::kSize:
       return anyOf(call, Role::kRegion, [&](std::size_t i) {
         return values[i].size.width < 1 || values[i].size.height < 1;
@@ -117,8 +165,12 @@ KelStatus codeOf(Check check) {
     case Check::kNull:
     case Check::kValues:
       return -8;
+    case Check::kWidth:
+    case Check::kArea:
     case Check::kSize:
       return -6;
+    case Check::kDivisor:
+      return -10;
     case Check::kStep:
       return -14;
     case Check::kOrder:
@@ -184,6 +236,14 @@ TEST(Checks, OrdersOfTheFamilies) {
   EXPECT_EQ(keliSwapChannels_8u_C3R(pixel, 3, pixel, 0, one, order), kelStatusBadStep);
   EXPECT_EQ(keliSwapChannels_8u_C3R(pixel, 3, pixel, 3, one, order), kelStatusBadChannelOrder);
   EXPECT_EQ(keliSwapChannels_8u_C3R(pixel, 3, pixel, 3, one, nullptr), kelStatusNullPointer);
+  // Members that are others over more samples look at the width first.
+  EXPECT_EQ(keliAdd_8u_C1RSfs(nullptr, 0, pixel, 1, pixel, 1, none, 0), kelStatusNullPointer);
+  EXPECT_EQ(keliAdd_8u_C3RSfs(nullptr, 0, pixel, 1, pixel, 1, none, 0), kelStatusBadSize);
+  EXPECT_EQ(keliAdd_8u_C4IRSfs(nullptr, 0, pixel, 1, {1, 0}, 0), kelStatusNullPointer);
+  EXPECT_EQ(keliAdd_8u_AC4RSfs(nullptr, 0, pixel, 1, pixel, 1, none, 0), kelStatusNullPointer);
+  EXPECT_EQ(keliAddC_8u_C3RSfs(nullptr, 0, value, pixel, 1, none, 0), kelStatusNullPointer);
+  EXPECT_EQ(keliMulScale_8u_C1R(pixel, 0, pixel, 1, pixel, 1, none), kelStatusBadStep);
+  EXPECT_EQ(keliMulCScale_8u_C1R(pixel, 0, 3, pixel, 1, none), kelStatusBadStep);
   EXPECT_EQ(keliDrawText_8u_C3R(nullptr, 0, nullptr, 0, none, nullptr, {0, 0}, nullptr, 0),
             kelStatusWarning);
 }

@@ -41,6 +41,29 @@ void fillFloats(std::uint8_t* p, std::size_t count, Random& random) {
   }
 }
 
+// Makes most counts of bits such as move something.
+void keepSmall(std::uint8_t* counts, int length, Random& random) {
+  for (int k = 0; k < std::max(length, 1); ++k) {
+    const std::uint32_t count = static_cast<std::uint32_t>(pick(random, 36));
+    if (pick(random, 4) != 0) std::memcpy(counts + 4 * k, &count, sizeof(count));
+  }
+}
+
+bool isFloating(Type type) {
+  return type == Type::k32f || type == Type::k64f || type == Type::k32fc;
+}
+
+// Zero of its type, a negative one included.
+bool isZero(Type type, const std::uint8_t* sample) {
+  const std::size_t bytes = registry::bytesOf(type);
+  const std::size_t sign = type == Type::k64f ? 7 : 3;  // the byte that holds it
+  for (std::size_t i = 0; i < bytes; ++i) {
+    const bool signs = isFloating(type) && i % 8 % (sign + 1) == sign;
+    if ((sample[i] & (signs ? 0x7F : 0xFF)) != 0) return false;
+  }
+  return true;
+}
+
 // Arenas are kept for further calls: mapping memory is slow.
 class ArenaPool {
  public:
@@ -86,6 +109,8 @@ void fillSamples(Type type, std::uint8_t* p, std::size_t count, Random& random) 
       return fillIntegers<Kel16u>(p, count, random);
     case Type::k16s:
       return fillIntegers<Kel16s>(p, count, random);
+    case Type::k32u:
+      return fillIntegers<std::uint32_t>(p, count, random);
     case Type::k32s:
       return fillIntegers<Kel32s>(p, count, random);
     case Type::k64s:
@@ -103,6 +128,13 @@ void fillSamples(Type type, std::uint8_t* p, std::size_t count, Random& random) 
     case Type::kNone:
       return;
   }
+}
+
+bool checksDivisor(const registry::Function& f) {
+  for (const registry::Check check : f.entry->checks) {
+    if (check == registry::Check::kDivisor) return true;
+  }
+  return false;
 }
 
 TestCall::TestCall(const registry::Function& f, const Geometry& g, std::uint64_t seed)
@@ -128,9 +160,15 @@ TestCall::TestCall(const registry::Function& f, const Geometry& g, std::uint64_t
         v.size = size_;
         break;
       case Role::kConstant:
+      case Role::kShift:
       case Role::kScalar:
         fillSamples(a.type, constant, a.length != 0 ? static_cast<std::size_t>(a.length) : 1,
                     random);
+        if (a.role == Role::kShift) keepSmall(constant, a.length, random);
+        for (std::size_t k = 0; checksDivisor(f) && k < 4; ++k) {
+          std::uint8_t* const sample = constant + k * registry::bytesOf(a.type);
+          while (isZero(a.type, sample)) fillSamples(a.type, sample, 1, random);
+        }
         if (a.length != 0) {
           addArray(i, static_cast<std::size_t>(a.length) * registry::bytesOf(a.type), g, constant);
         } else if (a.type == Type::k32f) {

@@ -77,6 +77,9 @@ class TestCall {
   std::vector<std::unique_ptr<const void*[]>> planeArrays_;
 };
 
+// Whether a zero constant is an error.
+bool checksDivisor(const registry::Function& function);
+
 // Random samples, every now and then an extreme or special one.
 void fillSamples(registry::Type type, std::uint8_t* p, std::size_t count, Random& random);
 

@@ -1,0 +1,117 @@
+// The scale factor rule (core/scale.h) in vectors: v * 2^-scaleFactor, ties to even, saturated.
+//
+// Halves: with q = v >> sf, the rule is (v + 2^(sf-1) - 1 + (q & 1)) >> sf. In unsigned lanes that
+// the sum would leave, the rounding average of the vector units, (x + y + 1) >> 1 without overflow,
+// takes the first step of the shift: avg(v, 2^(sf-1) - 2 + (q & 1)) >> (sf - 1), for sf of 2 and
+// more. Shifts of 8 and 16 bits by a count known at run time are high products with powers of two.
+#if defined(KELI_CORE_SCALE_INL_H_) == defined(HWY_TARGET_TOGGLE)
+#ifdef KELI_CORE_SCALE_INL_H_
+#undef KELI_CORE_SCALE_INL_H_
+#else
+#define KELI_CORE_SCALE_INL_H_
+#endif
+
+#include "core/scale.h"
+#include "core/wide-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace keli::HWY_NAMESPACE {
+
+// Unsigned lanes of 8 or 16 bits to the right by 1 and more.
+template <class D>
+struct ShiftRightBy {
+  using D16 = hn::Repartition<std::uint16_t, D>;
+  hn::Vec<D16> factor;
+  hn::Vec<D> mask;  // takes off what 8-bit lanes get from their neighbours
+
+  static HWY_INLINE ShiftRightBy make(D d, int count) {
+    return {hn::Set(D16(), static_cast<std::uint16_t>(0x10000 >> count)),
+            hn::Set(d, static_cast<hn::TFromD<D>>(0xFF >> count))};
+  }
+
+  HWY_INLINE hn::Vec<D> operator()(hn::Vec<D> v) const {
+    const D d;
+    const hn::Vec<D> shifted = hn::BitCast(d, hn::MulHigh(hn::BitCast(D16(), v), factor));
+    if constexpr (sizeof(hn::TFromD<D>) == 1) return hn::And(shifted, mask);
+    return shifted;
+  }
+};
+
+// Unsigned lanes of 8 or 16 bits scaled by 2 and more.
+template <class D>
+struct RoundUnsigned {
+  ShiftRightBy<D> all;
+  ShiftRightBy<D> rest;
+  hn::Vec<D> bias;
+  hn::Vec<D> one;
+
+  static HWY_INLINE RoundUnsigned make(D d, int scaleFactor) {
+    return {ShiftRightBy<D>::make(d, scaleFactor), ShiftRightBy<D>::make(d, scaleFactor - 1),
+            hn::Set(d, static_cast<hn::TFromD<D>>((1 << (scaleFactor - 1)) - 2)), hn::Set(d, 1)};
+  }
+
+  HWY_INLINE hn::Vec<D> operator()(hn::Vec<D> v) const {
+    return rest(hn::AverageRound(v, hn::Or(hn::And(all(v), one), bias)));
+  }
+};
+
+// Unsigned lanes of 8 or 16 bits scaled by 1.
+template <class D>
+HWY_INLINE hn::Vec<D> roundHalf(D d, hn::Vec<D> v) {
+  const hn::Vec<D> up = hn::AverageRound(v, hn::Zero(d));
+  return up - hn::And(hn::And(up, v), hn::Set(d, 1));
+}
+
+// Signed lanes of 32 bits scaled by 1 to 31, where v + 2^(sf-1) does not overflow.
+template <class D>
+struct RoundSigned {
+  int scaleFactor;
+  hn::Vec<D> bias;
+  hn::Vec<D> one;
+
+  static HWY_INLINE RoundSigned make(D d, int sf) {
+    return {sf, hn::Set(d, static_cast<std::int32_t>((std::uint32_t{1} << (sf - 1)) - 1)),
+            hn::Set(d, 1)};
+  }
+
+  HWY_INLINE hn::Vec<D> operator()(hn::Vec<D> v) const {
+    const D d;
+    const hn::Vec<D> odd = hn::And(shiftRightBy(d, v, scaleFactor), one);
+    return shiftRightBy(d, v + bias + odd, scaleFactor);
+  }
+};
+
+// Lanes of 8 or 16 bits scaled by a factor of 0 or less: v << -scaleFactor, saturated.
+template <class D>
+struct ScaleUp {
+  using T = hn::TFromD<D>;
+  using D16 = hn::Repartition<std::uint16_t, D>;
+  int count;       // as many as the lanes have bits saturate all but 0; 15 all but 0 and -1
+  hn::Vec<D> top;  // of 8 bits, the largest value that does not saturate
+
+  static HWY_INLINE ScaleUp make(D d, int scaleFactor) {
+    constexpr int kMost = sizeof(T) == 1 ? 8 : 15;
+    const int count = scaleFactor < -kMost ? kMost : -scaleFactor;
+    return {count, hn::Set(d, static_cast<T>(0xFF >> count))};
+  }
+
+  HWY_INLINE hn::Vec<D> operator()(hn::Vec<D> v) const {
+    const D d;
+    if constexpr (sizeof(T) == 1) {
+      // A shifted lane stays within its byte, so neighbours may share a shift of 16 bits.
+      const hn::Vec<D> fits = hn::Min(v, top);
+      const hn::Vec<D> shifted = hn::BitCast(d, hn::ShiftLeftSame(hn::BitCast(D16(), fits), count));
+      return hn::Or(shifted, hn::VecFromMask(d, hn::Not(hn::Eq(fits, v))));
+    } else {
+      const hn::Vec<D> shifted = hn::ShiftLeftSame(v, count);
+      const hn::Vec<D> limit =
+          hn::Xor(hn::ShiftRight<15>(v), hn::Set(d, std::numeric_limits<T>::max()));
+      return hn::IfThenElse(hn::Eq(hn::ShiftRightSame(shifted, count), v), shifted, limit);
+    }
+  }
+};
+
+}  // namespace keli::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#endif  // per-target include guard
