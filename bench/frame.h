@@ -84,7 +84,9 @@ class Frame {
   const Image& destination() const { return *destination_; }
   const Image& mask() const { return *mask_; }
   bool hasSource() const { return !sources_.empty(); }
+  std::size_t sourceCount() const { return sources_.size(); }
   bool hasDestination() const { return destination_ != nullptr; }
+  int scaleFactor() const { return choices_.scaleFactor; }
   double constant(int channel) const { return choices_.constant * (channel + 1); }
 
   // Calls the function.

@@ -125,11 +125,21 @@ void setThreads(int threads) {
   for (const Library& l : libraries()) l.setThreads(threads);
 }
 
+// "keliAdd_8u_C1RSfs:3" with a scale factor of 3.
+std::string labelOf(const Entry& entry) {
+  std::string label = entry.function->name;
+  for (const registry::Argument& a : entry.function->arguments) {
+    if (a.role == registry::Role::kScaleFactor)
+      label += ":" + std::to_string(entry.row->choices.scaleFactor);
+  }
+  return label;
+}
+
 void registerAll(const std::vector<Entry>& rows, const Options& options) {
   for (const Entry& entry : rows) {
     for (const Size size : sizesOf(*entry.row, options)) {
       const std::string name =
-          std::string(entry.family->name) + "/" + entry.function->name + "/" + nameOf(size);
+          std::string(entry.family->name) + "/" + labelOf(entry) + "/" + nameOf(size);
       benchmark::RegisterBenchmark(name.c_str(),
                                    [&entry, size, effort = options.effort](benchmark::State& s) {
                                      runEntry(s, entry, size, effort);
