@@ -2,8 +2,8 @@
 // with ties to even, saturated.
 //
 // One operation is several kernels, by scale factor: results of scale factors of 0 and less depend
-// on the saturated result alone; those of larger ones are formed in lanes of twice the width, or in
-// bytes where they fit. Kernels that are not flat (C3 constants, AC4) make do with fewer.
+// on the saturated result alone. Sums and differences are scaled in lanes of their own width, from
+// their exact halves; products in lanes of twice the width.
 #if defined(KELI_ARITH_SCALED_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_ARITH_SCALED_INL_H_
 #undef KELI_ARITH_SCALED_INL_H_
@@ -30,19 +30,6 @@ constexpr std::int64_t exact(Sub, std::int64_t a, std::int64_t b) { return b - a
 constexpr std::int64_t exact(Mul, std::int64_t a, std::int64_t b) { return a * b; }
 
 template <class D, class V>
-HWY_INLINE Wide<D> exactWide(Add, D d, V a, V b) {
-  return weighted<1, 1>(d, a, b);
-}
-template <class D, class V>
-HWY_INLINE Wide<D> exactWide(Sub, D d, V a, V b) {
-  return weighted<-1, 1>(d, a, b);
-}
-template <class D, class V>
-HWY_INLINE Wide<D> exactWide(Mul, D d, V a, V b) {
-  return products(d, a, b);
-}
-
-template <class D, class V>
 HWY_INLINE V saturated(Add, D, V a, V b) {
   return hn::SaturatedAdd(a, b);
 }
@@ -61,12 +48,71 @@ HWY_INLINE V saturated(Mul, D d, V a, V b) {
   }
 }
 
+// ---- Halves of sums and differences
+// --------------------------------------------------------------
+//
+// In lanes of the operands' own width. Signed ones are biased by 2^15 each, which adds 2^16 to the
+// sum: an even number of units of the result for every scale factor below 16, so ties still go to
+// the even neighbour, and it comes off at the end.
+
+template <class D>
+using Unsigned = hn::RebindToUnsigned<D>;
+
+// floor(v / 2); its last bit of rest is what that lost.
+template <class D>
+struct HalfOf {
+  hn::Vec<Unsigned<D>> floor;
+  hn::Vec<Unsigned<D>> rest;
+};
+
+template <class D>
+constexpr hn::TFromD<Unsigned<D>> kBias =
+    std::is_signed_v<hn::TFromD<D>> ? hn::TFromD<Unsigned<D>>{1} << (8 * sizeof(hn::TFromD<D>) - 1)
+                                    : hn::TFromD<Unsigned<D>>{0};
+
+// 2^16 of the bias, scaled.
+template <class D>
+constexpr hn::TFromD<Unsigned<D>> biasOf(int scaleFactor) {
+  return static_cast<hn::TFromD<Unsigned<D>>>(std::uint32_t{2} * kBias<D> >> scaleFactor);
+}
+
+template <class D, class V>
+HWY_INLINE hn::Vec<Unsigned<D>> biased(D, V v, bool complement = false) {
+  const Unsigned<D> du;
+  const auto bits = static_cast<hn::TFromD<Unsigned<D>>>(complement ? ~kBias<D> : kBias<D>);
+  return hn::Xor(hn::BitCast(du, v), hn::Set(du, bits));
+}
+
+template <class D, class V>
+HWY_INLINE HalfOf<D> half(Add, D d, V a, V b) {
+  const Unsigned<D> du;
+  const auto rest = hn::BitCast(du, hn::Xor(a, b));
+  const auto up = hn::AverageRound(biased(d, a), biased(d, b));
+  return {up - hn::And(rest, hn::Set(du, 1)), rest};
+}
+template <class D, class V>
+HWY_INLINE HalfOf<D> half(Sub, D d, V a, V b) {
+  // b + ~a + 1 is b - a, and the average adds the 1.
+  return {hn::AverageRound(biased(d, b), biased(d, a, true)),
+          hn::BitCast(Unsigned<D>(), hn::Xor(a, b))};
+}
+
+// floor(v / 2), its last bit set where that lost one: below the bit that decides a tie it only
+// tells that there is something.
+template <class Operation, class D, class V>
+HWY_INLINE hn::Vec<Unsigned<D>> halfToOdd(Operation operation, D d, V a, V b) {
+  const Unsigned<D> du;
+  const HalfOf<D> h = half(operation, d, a, b);
+  return hn::Or(h.floor, hn::And(h.rest, hn::Set(du, 1)));
+}
+
 // ---- By scale factor
 // -----------------------------------------------------------------------------
 
 struct Unscaled {  // 0
-  template <class D>
-  static HWY_INLINE Nothing at(D, int) {
+  static constexpr bool kLong = false;
+  template <class Operation, class D>
+  static HWY_INLINE Nothing at(Operation, D, int) {
     return {};
   }
   template <class Operation, class D, class V>
@@ -76,8 +122,9 @@ struct Unscaled {  // 0
 };
 
 struct Up {  // 0 and less
-  template <class D>
-  static HWY_INLINE ScaleUp<D> at(D d, int scaleFactor) {
+  static constexpr bool kLong = false;
+  template <class Operation, class D>
+  static HWY_INLINE ScaleUp<D> at(Operation, D d, int scaleFactor) {
     return ScaleUp<D>::make(d, scaleFactor);
   }
   template <class Operation, class D, class V>
@@ -86,75 +133,96 @@ struct Up {  // 0 and less
   }
 };
 
-struct Half {  // 1, of 8u
-  template <class D>
-  static HWY_INLINE Nothing at(D, int) {
+struct ByOne {  // 1
+  static constexpr bool kLong = false;
+  template <class Operation, class D>
+  static HWY_INLINE Nothing at(Operation, D, int) {
     return {};
   }
-  template <class D, class V>
-  static HWY_INLINE V apply(Add, D d, Nothing, V a, V b) {
-    // The average is rounded up; an odd one that was a tie is one too large.
-    const V up = hn::AverageRound(a, b);
-    return up - hn::And(hn::And(hn::Xor(a, b), up), hn::Set(d, 1));
-  }
-  template <class D, class V>
-  static HWY_INLINE V apply(Sub, D d, Nothing, V a, V b) {
-    return roundHalf(d, hn::SaturatedSub(b, a));
-  }
-  template <class D, class V>
-  static HWY_INLINE V apply(Mul, D d, Nothing, V a, V b) {
-    const WideTag<D> dw;
-    return narrow(
-        d, mapWide(d, products(d, a, b), [&](auto v) KELI_LAMBDA { return roundHalf(dw, v); }));
+  template <class Operation, class D, class V>
+  static HWY_INLINE V apply(Operation operation, D d, Nothing, V a, V b) {
+    if constexpr (std::is_same_v<Operation, Mul>) {
+      const WideTag<D> dw;
+      return narrow(d, mapWide(d, products(d, a, b), [&](auto v) KELI_LAMBDA {
+                      if constexpr (sizeof(hn::TFromD<D>) == 1) return roundHalf(dw, v);
+                      if constexpr (sizeof(hn::TFromD<D>) == 2) return roundHalfSigned(dw, v);
+                    }));
+    } else if constexpr (std::is_same_v<Operation, Sub> && !std::is_signed_v<hn::TFromD<D>>) {
+      return roundHalf(d, hn::SaturatedSub(b, a));  // no difference below 0 gives more than 0
+    } else {
+      const Unsigned<D> du;
+      const HalfOf<D> h = half(operation, d, a, b);
+      const auto up = hn::And(hn::And(h.floor, h.rest), hn::Set(du, 1));
+      // The largest difference of 16s saturates.
+      return hn::BitCast(d, hn::SaturatedAdd(h.floor, up) - hn::Set(du, biasOf<D>(1)));
+    }
   }
 };
 
-struct Down8 {  // 2 and more, of 8u: no difference below 0 gives more than 0
-  template <class D>
-  static HWY_INLINE RoundUnsigned<WideTag<D>> at(D, int scaleFactor) {
-    return RoundUnsigned<WideTag<D>>::make(WideTag<D>(), scaleFactor);
+struct ByTwo {  // 2, of sums and differences
+  static constexpr bool kLong = true;
+  template <class Operation, class D>
+  static HWY_INLINE Nothing at(Operation, D, int) {
+    return {};
   }
   template <class Operation, class D, class V>
-  static HWY_INLINE V apply(Operation operation, D d, const RoundUnsigned<WideTag<D>>& round, V a,
-                            V b) {
-    return narrow(d, mapWide(d, exactWide(operation, d, a, b), round));
+  static HWY_INLINE V apply(Operation operation, D d, Nothing, V a, V b) {
+    const Unsigned<D> du;
+    const HalfOf<D> h = half(operation, d, a, b);
+    return hn::BitCast(d, roundQuarter(du, h.floor, h.rest) - hn::Set(du, biasOf<D>(2)));
   }
 };
 
-struct DownBytes {  // Sub of 8u: 2 and more; Add of 8u: 3 and more
+struct Down {  // 2 and more; for sums, and differences of 16s, 3 and more
+  static constexpr bool kLong = true;
+
   template <class D>
-  static HWY_INLINE RoundUnsigned<D> at(D d, int scaleFactor) {
-    return RoundUnsigned<D>::make(d, scaleFactor);
+  struct Biased {
+    RoundUnsigned<Unsigned<D>> round;
+    hn::Vec<Unsigned<D>> bias;
+  };
+
+  template <class Operation, class D>
+  static HWY_INLINE auto at(Operation, D d, int scaleFactor) {
+    const WideTag<D> dw;
+    const Unsigned<D> du;
+    if constexpr (std::is_same_v<Operation, Mul>) {
+      if constexpr (sizeof(hn::TFromD<D>) == 1)
+        return RoundUnsigned<WideTag<D>>::make(dw, scaleFactor);
+      if constexpr (sizeof(hn::TFromD<D>) == 2)
+        return RoundSigned<WideTag<D>>::make(dw, scaleFactor);
+    } else if constexpr (std::is_same_v<Operation, Sub> && !std::is_signed_v<hn::TFromD<D>>) {
+      return RoundUnsigned<D>::make(d, scaleFactor);
+    } else {
+      return Biased<D>{RoundUnsigned<Unsigned<D>>::make(du, scaleFactor - 1),
+                       hn::Set(du, biasOf<D>(scaleFactor))};
+    }
+  }
+  template <class D, class R, class V>
+  static HWY_INLINE V apply(Mul, D d, const R& round, V a, V b) {
+    return narrow(d, mapWide(d, products(d, a, b), round));
   }
   template <class D, class V>
   static HWY_INLINE V apply(Sub, D, const RoundUnsigned<D>& round, V a, V b) {
     return round(hn::SaturatedSub(b, a));
   }
-};
-
-struct DownBytesOfSum {  // 3 and more, of 8u
-  template <class D>
-  static HWY_INLINE RoundUnsigned<D> at(D d, int scaleFactor) {
-    return RoundUnsigned<D>::make(d, scaleFactor - 1);
-  }
-  // Half of the sum, its last bit set where the half lost one: below the bit that decides a tie it
-  // only tells that there is something.
-  template <class D, class V>
-  static HWY_INLINE V apply(Add, D d, const RoundUnsigned<D>& round, V a, V b) {
-    const V up = hn::AverageRound(a, b);
-    return round(up - hn::And(hn::AndNot(up, hn::Xor(a, b)), hn::Set(d, 1)));
+  template <class Operation, class D, class V>
+  static HWY_INLINE V apply(Operation operation, D d, const Biased<D>& k, V a, V b) {
+    return hn::BitCast(d, k.round(halfToOdd(operation, d, a, b)) - k.bias);
   }
 };
 
-struct Down16 {  // 1 and more, of 16s
-  template <class D>
-  static HWY_INLINE RoundSigned<WideTag<D>> at(D, int scaleFactor) {
-    return RoundSigned<WideTag<D>>::make(WideTag<D>(), scaleFactor);
+struct BySixteen {  // 16, of sums and differences of 16s: 1 above 2^15, -1 below -2^15
+  static constexpr bool kLong = true;
+  template <class Operation, class D>
+  static HWY_INLINE Nothing at(Operation, D, int) {
+    return {};
   }
   template <class Operation, class D, class V>
-  static HWY_INLINE V apply(Operation operation, D d, const RoundSigned<WideTag<D>>& round, V a,
-                            V b) {
-    return narrow(d, mapWide(d, exactWide(operation, d, a, b), round));
+  static HWY_INLINE V apply(Operation operation, D d, Nothing, V a, V b) {
+    const V v = hn::BitCast(d, biased(d, hn::BitCast(d, halfToOdd(operation, d, a, b))));
+    const V tie = hn::Set(d, 1 << 14);
+    return hn::VecFromMask(d, hn::Lt(v, hn::Neg(tie))) - hn::VecFromMask(d, hn::Gt(v, tie));
   }
 };
 
@@ -165,11 +233,12 @@ template <class Operation, class T, class How>
 struct Scaled {
   static constexpr std::size_t kPeriod = 1;
   static constexpr std::size_t kUnroll = 4;
+  static constexpr bool kBoundByInstructions = How::kLong;
   int scaleFactor;
 
   template <class D>
   HWY_INLINE auto at(D d, std::size_t) const {
-    return How::at(d, scaleFactor);
+    return How::at(Operation(), d, scaleFactor);
   }
   template <class D, class K, class V>
   HWY_INLINE V vector(D d, const K& k, V a, V b) const {
@@ -183,21 +252,18 @@ struct Scaled {
 // Calls run with the operation for a scale factor of at most kBits.
 template <class Operation, class T, bool kFlat, class Run>
 HWY_INLINE void forScaleFactor(int sf, const Run& run) {
+  constexpr bool kHalves = !std::is_same_v<Operation, Mul> &&
+                           !(std::is_same_v<Operation, Sub> && std::is_same_v<T, Kel8u>);
   if (kFlat && sf == 0) return run(Scaled<Operation, T, Unscaled>{sf});
   if (sf <= 0) return run(Scaled<Operation, T, Up>{sf});
-  if constexpr (sizeof(T) == 2) {
-    run(Scaled<Operation, T, Down16>{sf});
-  } else {
-    if (sf == 1) return run(Scaled<Operation, T, Half>{sf});
-    if constexpr (std::is_same_v<Operation, Sub>) {
-      run(Scaled<Operation, T, DownBytes>{sf});
-    } else {
-      if constexpr (kFlat && std::is_same_v<Operation, Add>) {
-        if (sf > 2) return run(Scaled<Operation, T, DownBytesOfSum>{sf});
-      }
-      run(Scaled<Operation, T, Down8>{sf});
+  if (sf == 1) return run(Scaled<Operation, T, ByOne>{sf});
+  if constexpr (kHalves) {
+    if (sf == 2) return run(Scaled<Operation, T, ByTwo>{sf});
+    if constexpr (sizeof(T) == 2) {
+      if (sf == 16) return run(Scaled<Operation, T, BySixteen>{sf});
     }
   }
+  run(Scaled<Operation, T, Down>{sf});
 }
 
 template <class Operation, class T, class Keep>

@@ -64,6 +64,12 @@ struct KeepOthers {
 
 namespace map {
 
+// Vectors of 64 bytes pay where instructions and not memory bound an operation: it says so.
+template <class Op, class = void>
+constexpr bool kLongVectors = false;
+template <class Op>
+constexpr bool kLongVectors<Op, std::enable_if_t<Op::kBoundByInstructions>> = true;
+
 constexpr std::size_t cycle(std::size_t a, std::size_t b) { return a == 1 ? b : a; }
 
 template <class Op, class Keep, class TD, class... TS>
@@ -160,12 +166,12 @@ struct Row {
     if constexpr (kScalarTarget) {
       samples(op, 0, n, dst, src...);
     } else {
-      constexpr std::size_t kVectorBytes = std::min(HWY_MAX_BYTES, 32);
+      constexpr std::size_t kVectorBytes = std::min(HWY_MAX_BYTES, kLongVectors<Op> ? 64 : 32);
       using D = hn::CappedTag<TD, kVectorBytes / kWidest>;
       constexpr std::size_t kN = hn::MaxLanes(D());
       // Narrow results fill no lines; two vectors are one, or half of one on 16-byte targets.
       constexpr bool kWhole = kN * sizeof(TD) == kVectorBytes;
-      constexpr std::size_t kLine = 2 * kVectorBytes;
+      constexpr std::size_t kLine = std::min<std::size_t>(64, 2 * kVectorBytes);
       constexpr std::size_t kLong = 1024 / sizeof(TD);
       const std::size_t misaligned = reinterpret_cast<std::uintptr_t>(dst) % kLine;
       std::size_t head = 0;

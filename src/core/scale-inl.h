@@ -62,22 +62,39 @@ HWY_INLINE hn::Vec<D> roundHalf(D d, hn::Vec<D> v) {
   return up - hn::And(hn::And(up, v), hn::Set(d, 1));
 }
 
-// Signed lanes of 32 bits scaled by 1 to 31, where v + 2^(sf-1) does not overflow.
+// Unsigned lanes that hold floor(v / 2) and, in the last bit of rest, what that lost, scaled by
+// what is left of a scale factor of 2.
+template <class D>
+HWY_INLINE hn::Vec<D> roundQuarter(D d, hn::Vec<D> half, hn::Vec<D> rest) {
+  const hn::Vec<D> quarter = ShiftRightBy<D>::make(d, 1)(half);
+  const hn::Vec<D> up = hn::And(hn::And(half, hn::Or(rest, quarter)), hn::Set(d, 1));
+  return quarter + up;
+}
+
+// Signed lanes of 32 bits scaled by 1.
+template <class D>
+HWY_INLINE hn::Vec<D> roundHalfSigned(D d, hn::Vec<D> v) {
+  const hn::Vec<D> odd = hn::And(hn::ShiftRight<1>(v), hn::Set(d, 1));
+  return hn::ShiftRight<1>(v + odd);
+}
+
+// Signed lanes of 32 bits scaled by 2 to 31, where v + 2^(sf-1) does not overflow: v - ~c is
+// v + c + 1, and c is even without q & 1.
 template <class D>
 struct RoundSigned {
   int scaleFactor;
-  hn::Vec<D> bias;
+  hn::Vec<D> notBias;
   hn::Vec<D> one;
 
   static HWY_INLINE RoundSigned make(D d, int sf) {
-    return {sf, hn::Set(d, static_cast<std::int32_t>((std::uint32_t{1} << (sf - 1)) - 1)),
-            hn::Set(d, 1)};
+    const std::uint32_t bias = (std::uint32_t{1} << (sf - 1)) - 2;
+    return {sf, hn::Set(d, static_cast<std::int32_t>(~bias)), hn::Set(d, 1)};
   }
 
   HWY_INLINE hn::Vec<D> operator()(hn::Vec<D> v) const {
     const D d;
     const hn::Vec<D> odd = hn::And(shiftRightBy(d, v, scaleFactor), one);
-    return shiftRightBy(d, v + bias + odd, scaleFactor);
+    return shiftRightBy(d, v - hn::AndNot(odd, notBias), scaleFactor);
   }
 };
 

@@ -70,24 +70,6 @@ HWY_INLINE void unrolled(F&& f) {
   unrolledImpl(static_cast<F&&>(f), std::make_index_sequence<kCount>{});
 }
 
-// kA * even + kB * odd of each pair of 16-bit lanes.
-template <int kA, int kB, class DW, class V>
-HWY_INLINE hn::Vec<DW> addPairs(DW dw, V pairs) {
-#if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
-  const auto weights = hn::Set(
-      dw, static_cast<std::int32_t>((static_cast<std::uint32_t>(kB) << 16) | (kA & 0xFFFF)));
-  if constexpr (hn::MaxLanes(DW()) == 4) {
-    return hn::Vec<DW>{_mm_madd_epi16(pairs.raw, weights.raw)};
-  } else {
-    return hn::Vec<DW>{_mm256_madd_epi16(pairs.raw, weights.raw)};
-  }
-#else
-  const auto wide = hn::BitCast(dw, pairs);
-  const auto even = hn::ShiftRight<16>(hn::ShiftLeft<16>(wide)), odd = hn::ShiftRight<16>(wide);
-  return hn::Set(dw, kA) * even + hn::Set(dw, kB) * odd;
-#endif
-}
-
 // Signed lanes saturated to half their width: each 16 bytes hold those of lo, then those of hi.
 template <class D, class VW>
 HWY_INLINE hn::Vec<D> packSaturated([[maybe_unused]] D d, [[maybe_unused]] VW lo,
@@ -103,8 +85,7 @@ HWY_INLINE hn::Vec<D> packSaturated([[maybe_unused]] D d, [[maybe_unused]] VW lo
       static_assert(std::is_same_v<T, std::int16_t>);
       return hn::Vec<D>{_mm_packs_epi32(lo.raw, hi.raw)};
     }
-  } else {
-    static_assert(hn::MaxLanes(D()) * sizeof(T) == 32);
+  } else if constexpr (hn::MaxLanes(D()) * sizeof(T) == 32) {
     if constexpr (std::is_same_v<T, std::uint8_t>) {
       return hn::Vec<D>{_mm256_packus_epi16(lo.raw, hi.raw)};
     } else if constexpr (std::is_same_v<T, std::uint16_t>) {
@@ -113,6 +94,17 @@ HWY_INLINE hn::Vec<D> packSaturated([[maybe_unused]] D d, [[maybe_unused]] VW lo
       static_assert(std::is_same_v<T, std::int16_t>);
       return hn::Vec<D>{_mm256_packs_epi32(lo.raw, hi.raw)};
     }
+#if HWY_TARGET == HWY_AVX3_DL
+  } else {
+    if constexpr (std::is_same_v<T, std::uint8_t>) {
+      return hn::Vec<D>{_mm512_packus_epi16(lo.raw, hi.raw)};
+    } else if constexpr (std::is_same_v<T, std::uint16_t>) {
+      return hn::Vec<D>{_mm512_packus_epi32(lo.raw, hi.raw)};
+    } else {
+      static_assert(std::is_same_v<T, std::int16_t>);
+      return hn::Vec<D>{_mm512_packs_epi32(lo.raw, hi.raw)};
+    }
+#endif
   }
 #elif HWY_TARGET != HWY_SCALAR
   const hn::Half<D> dh;

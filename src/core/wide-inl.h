@@ -91,23 +91,6 @@ HWY_INLINE Wide<D> products(D d, hn::Vec<D> a, hn::Vec<D> b) {
   }
 }
 
-// kA * a + kB * b
-template <int kA, int kB, class D>
-HWY_INLINE Wide<D> weighted(D d, hn::Vec<D> a, hn::Vec<D> b) {
-  if constexpr (kTwoHalves<D> && std::is_same_v<hn::TFromD<D>, std::int16_t>) {
-    const WideTag<D> dw;
-    const Zipped<D> pairs = zip(d, a, b);
-    return {addPairs<kA, kB>(dw, pairs.lo), addPairs<kA, kB>(dw, pairs.hi)};
-  } else {
-    static_assert((kA == 1 || kA == -1) && kB == 1);
-    const Wide<D> wa = widen(d, a), wb = widen(d, b);
-    Wide<D> result;
-    result.lo = kA == 1 ? wb.lo + wa.lo : wb.lo - wa.lo;
-    if constexpr (kTwoHalves<D>) result.hi = kA == 1 ? wb.hi + wa.hi : wb.hi - wa.hi;
-    return result;
-  }
-}
-
 // Lanes are taken as signed, and saturate.
 template <class D>
 HWY_INLINE hn::Vec<D> narrow(D d, const Wide<D>& w) {
