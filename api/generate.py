@@ -44,6 +44,11 @@ def entry_checks(entry):
     return out
 
 
+def parallel_text(entry):
+    return ("On large regions the rows are shared out among threads, with the same results: "
+            + ", ".join(entry["parallel"]) + ".")
+
+
 def header(tables, statuses):
     out = [f"/* keli: image-processing primitives. {NOTE} */", "#ifndef KELI_H", "#define KELI_H", "",
            '#include "keli_types.h"', "", "#ifdef __cplusplus", 'extern "C" {', "#endif", "",
@@ -60,6 +65,8 @@ def header(tables, statuses):
                 out += [" *", f" *     {entry['formula']}"]
             if "text" in entry:
                 out += [" *"] + [line or " *" for line in words(entry["text"], 96, " * ")]
+            if entry.get("parallel"):
+                out += [" *"] + words(parallel_text(entry), 96, " * ")
             checks = entry_checks(entry)
             if checks:
                 text = "; ".join(f"{s} if {t}" for s, t in checks)
@@ -144,7 +151,8 @@ def registry(tables, statuses):
     out += ["};", "", "const Function kFunctions[] = {"]
     index = {id(e): i for i, (_, e) in enumerate(entries)}
     for f, begin in zip(functions, first_argument):
-        flags = [str(f.in_place).lower(), str("M" in f.descriptor).lower()]
+        flags = [str(flag).lower() for flag in
+                 (f.in_place, "M" in f.descriptor, f.parallel)]
         out.append(f"    {{{c_string(f.name)}, {c_string(f.operation)}, {c_string(f.descriptor)}, "
                    f"{c_string(f.prototype)}, &kEntries[{index[id(f.entry)]}], "
                    f"{{kArguments + {begin}, {len(f.arguments)}}}, {', '.join(flags)}, "
@@ -167,6 +175,8 @@ def reference(table):
             out += [f"    {entry['formula']}", ""]
         if "text" in entry:
             out += words(entry["text"], 100, "") + [""]
+        if entry.get("parallel"):
+            out += words(parallel_text(entry), 100, "") + [""]
         checks = entry_checks(entry)
         if checks:
             out += ["Checks, in order:", ""]

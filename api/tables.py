@@ -67,9 +67,13 @@ class Function:
         return re.match(r"keli([^_]+)", self.name)[1]
 
     @property
+    def parallel(self):
+        return self.name in self.entry.get("parallel", [])
+
+    @property
     def team(self):
         """How the frame walks the rows."""
-        return "Team::kThreads" if self.name in self.entry.get("parallel", []) else "Team::kCaller"
+        return "Team::kThreads" if self.parallel else "Team::kCaller"
 
     @property
     def prototype(self):

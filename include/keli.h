@@ -371,6 +371,9 @@ KELI_API KelStatus keliSwapChannels_32f_AC4R(const Kel32f* pSrc, int srcStep, Ke
  * read. In place the result replaces the second source. AC4 leaves the fourth sample of every
  * pixel as it was.
  *
+ * On large regions the rows are shared out among threads, with the same results:
+ * keliAdd_8u_C1IRSfs, keliAdd_16s_C1RSfs.
+ *
  * Checks, in order: kelStatusBadSize if the width is below 1 (C3 and C4); kelStatusNullPointer
  * if a pointer is null; kelStatusBadSize if roiSize is below 1 in width or height;
  * kelStatusBadStep if a step is below 1.
@@ -423,6 +426,9 @@ KELI_API KelStatus keliAdd_32f_AC4IR(const Kel32f* pSrc, int srcStep, Kel32f* pS
  * factor is valid: above 8 (8u) or 16 (16s) every result is 0, and the sources are not read. In
  * place the result replaces the second source: srcDst - src. AC4 leaves the fourth sample of
  * every pixel as it was.
+ *
+ * On large regions the rows are shared out among threads, with the same results:
+ * keliSub_8u_C1IRSfs, keliSub_16s_C1RSfs, keliSub_16s_C1IRSfs.
  *
  * Checks, in order: kelStatusBadSize if the width is below 1 (C3 and C4); kelStatusNullPointer
  * if a pointer is null; kelStatusBadSize if roiSize is below 1 in width or height;
@@ -477,6 +483,9 @@ KELI_API KelStatus keliSub_32f_AC4IR(const Kel32f* pSrc, int srcStep, Kel32f* pS
  * not read. In place the result replaces the second source. AC4 leaves the fourth sample of
  * every pixel as it was.
  *
+ * On large regions the rows are shared out among threads, with the same results:
+ * keliMul_8u_C1RSfs, keliMul_8u_C1IRSfs, keliMul_16s_C1RSfs, keliMul_16s_C1IRSfs.
+ *
  * Checks, in order: kelStatusBadSize if the width is below 1 (C3 and C4); kelStatusNullPointer
  * if a pointer is null; kelStatusBadSize if roiSize is below 1 in width or height;
  * kelStatusBadStep if a step is below 1.
@@ -528,6 +537,9 @@ KELI_API KelStatus keliMul_32f_AC4IR(const Kel32f* pSrc, int srcStep, Kel32f* pS
  * for C3 and AC4, four for C4). The exact sum is scaled, rounded to the nearest integer with
  * ties to even, and saturated. Any scale factor is valid: above 9 (8u) or 16 (16s) every result
  * is 0, and the source is not read. AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * On large regions the rows are shared out among threads, with the same results:
+ * keliAddC_8u_C1IRSfs, keliAddC_16s_C1IRSfs.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
  * below 1 in width or height; kelStatusBadStep if a step is below 1.
@@ -581,6 +593,9 @@ KELI_API KelStatus keliAddC_32f_AC4IR(const Kel32f value[3], Kel32f* pSrcDst, in
  * valid: above 8 (8u) or 16 (16s) every result is 0, and the source is not read. AC4 leaves the
  * fourth sample of every pixel as it was.
  *
+ * On large regions the rows are shared out among threads, with the same results:
+ * keliSubC_8u_C1IRSfs, keliSubC_16s_C1IRSfs.
+ *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
  * below 1 in width or height; kelStatusBadStep if a step is below 1.
  */
@@ -632,6 +647,9 @@ KELI_API KelStatus keliSubC_32f_AC4IR(const Kel32f value[3], Kel32f* pSrcDst, in
  * with ties to even, and saturated. Any scale factor is valid: above 16 (8u) or 30 (16s) every
  * result is 0, and the source is not read. AC4 leaves the fourth sample of every pixel as it
  * was.
+ *
+ * On large regions the rows are shared out among threads, with the same results:
+ * keliMulC_8u_C1IRSfs, keliMulC_16s_C1IRSfs.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
  * below 1 in width or height; kelStatusBadStep if a step is below 1.

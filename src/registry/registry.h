@@ -118,6 +118,7 @@ struct Function {
   Span<Argument> arguments;
   bool inPlace;
   bool masked;
+  bool parallel;  // large regions are shared out among threads
   Call call;
 
   // values: one for each argument, in order.
