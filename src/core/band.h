@@ -33,13 +33,17 @@ struct Band {
 };
 
 // How many units of so many bytes lie before the first that starts a cache line, or n if none does.
+// unitBytes: less than 64.
 inline std::size_t unitsToLine(const void* p, std::size_t unitBytes, std::size_t n) {
   constexpr std::size_t kLine = 64;
-  const std::uintptr_t address = reinterpret_cast<std::uintptr_t>(p);
-  for (std::size_t x = 0; x < kLine; ++x) {
-    if ((address + x * unitBytes) % kLine == 0) return x;
-  }
-  return n;
+  // unitBytes = power * odd; an odd number is its own inverse modulo 8, and one step of Newton's
+  // method doubles the bits.
+  const std::size_t power = unitBytes & (0 - unitBytes);
+  const std::size_t odd = unitBytes / power;
+  const std::size_t inverse = odd * (2 - odd * odd);
+  const std::size_t missing = (0 - reinterpret_cast<std::uintptr_t>(p)) % kLine;
+  if (missing % power != 0) return n;
+  return missing / power * inverse % (kLine / power);
 }
 
 inline const std::uint8_t* bytes(const void* p) { return static_cast<const std::uint8_t*>(p); }

@@ -15,7 +15,8 @@ std::size_t findStreamAbove();
 inline bool exceedsCache(std::size_t rowBytes, std::size_t rows) {
   std::size_t above = gStreamAbove.load(std::memory_order_relaxed);
   if (__builtin_expect(above == 0, 0)) above = findStreamAbove();
-  return rowBytes > above / rows;
+  std::size_t moved;
+  return __builtin_mul_overflow(rowBytes, rows, &moved) || moved > above;
 }
 
 }  // namespace keli

@@ -14,6 +14,7 @@
 #endif
 
 #include <algorithm>
+#include <limits>
 
 #include "core/simd-inl.h"
 
@@ -79,18 +80,46 @@ struct Interleave3 {
   static constexpr std::array<BlockTable, 3> kSpreadInto = makeSpreadInto();
 };
 
+// The same for four channels, with the pixels of interleaved vector j turned by j samples: position
+// p then holds channel (j + p) mod 4, and those of one channel stand at different positions in each
+// of the four vectors.
+template <std::size_t kBytes, std::size_t kSample>
+struct Interleave4 {
+  static constexpr std::size_t kLanes = kBytes / kSample;
+  using Table = std::array<std::array<std::uint8_t, kBytes>, 4>;
+
+  static constexpr Table makeOrdered(bool inverse) {
+    Table t{};
+    for (std::size_t k = 0; k < 4; ++k) {
+      for (std::size_t x = 0; x < kLanes; ++x) {
+        const std::size_t j = x / (kLanes / 4);
+        const std::size_t p = x % (kLanes / 4) * 4 + (k + 4 - j) % 4;
+        for (std::size_t byte = 0; byte < kSample; ++byte) {
+          const std::size_t here = x * kSample + byte, there = p * kSample + byte;
+          t[k][inverse ? there : here] = static_cast<std::uint8_t>(inverse ? here : there);
+        }
+      }
+    }
+    return t;
+  }
+  static constexpr Table kOrdered = makeOrdered(false);
+  static constexpr Table kSpread = makeOrdered(true);
+};
+
 #if HWY_TARGET != HWY_SCALAR
 template <class D>
 HWY_INLINE void deinterleave3(D d, const hn::TFromD<D>* src, hn::Vec<D> (&v)[3]) {
-  if constexpr (kPermutesBytes && hn::MaxLanes(D()) * sizeof(hn::TFromD<D>) == 32) {
-    using Plan = Interleave3<32, sizeof(hn::TFromD<D>)>;
+  constexpr std::size_t kBytes = hn::MaxLanes(D()) * sizeof(hn::TFromD<D>);
+  if constexpr (kPermutesBytes && kBytes >= 32) {
+    using Plan = Interleave3<kBytes, sizeof(hn::TFromD<D>)>;
     const hn::Repartition<std::uint8_t, D> d8;
     const std::uint8_t* const from = reinterpret_cast<const std::uint8_t*>(src);
-    const auto a = hn::LoadU(d8, from), b = hn::LoadU(d8, from + 32), c = hn::LoadU(d8, from + 64);
+    const auto a = hn::LoadU(d8, from), b = hn::LoadU(d8, from + kBytes),
+               c = hn::LoadU(d8, from + 2 * kBytes);
     unrolled<3>([&](auto k) KELI_LAMBDA {
-      const auto inA = hn::LoadU(d8, Plan::kHolds[0][k].data()),
-                 inB = hn::LoadU(d8, Plan::kHolds[1][k].data());
-      const auto gathered = hn::IfVecThenElse(inA, a, hn::IfVecThenElse(inB, b, c));
+      const auto inA = hn::MaskFromVec(hn::LoadU(d8, Plan::kHolds[0][k].data())),
+                 inB = hn::MaskFromVec(hn::LoadU(d8, Plan::kHolds[1][k].data()));
+      const auto gathered = hn::IfThenElse(inA, a, hn::IfThenElse(inB, b, c));
       v[k] = hn::BitCast(d, permuteBytes(d8, gathered, hn::LoadU(d8, Plan::kOrdered[k].data())));
     });
   } else {
@@ -103,17 +132,17 @@ template <class D>
 HWY_INLINE void interleave3(D d, const hn::Vec<D> (&v)[3], hn::Vec<D> (&out)[3]) {
   constexpr std::size_t kBytes = hn::MaxLanes(D()) * sizeof(hn::TFromD<D>);
   const hn::Repartition<std::uint8_t, D> d8;
-  if constexpr (kPermutesBytes && kBytes == 32) {
-    using Plan = Interleave3<32, sizeof(hn::TFromD<D>)>;
+  if constexpr (kPermutesBytes && kBytes >= 32) {
+    using Plan = Interleave3<kBytes, sizeof(hn::TFromD<D>)>;
     hn::Vec<decltype(d8)> spread[3];
     unrolled<3>([&](auto k) KELI_LAMBDA {
       spread[k] = permuteBytes(d8, hn::BitCast(d8, v[k]), hn::LoadU(d8, Plan::kSpread[k].data()));
     });
     unrolled<3>([&](auto j) KELI_LAMBDA {
-      const auto is0 = hn::LoadU(d8, Plan::kHolds[j][0].data()),
-                 is1 = hn::LoadU(d8, Plan::kHolds[j][1].data());
-      out[j] = hn::BitCast(
-          d, hn::IfVecThenElse(is0, spread[0], hn::IfVecThenElse(is1, spread[1], spread[2])));
+      const auto is0 = hn::MaskFromVec(hn::LoadU(d8, Plan::kHolds[j][0].data())),
+                 is1 = hn::MaskFromVec(hn::LoadU(d8, Plan::kHolds[j][1].data()));
+      out[j] =
+          hn::BitCast(d, hn::IfThenElse(is0, spread[0], hn::IfThenElse(is1, spread[1], spread[2])));
     });
   } else {
     // Blocks of 16 bytes, or one that is all of a shorter vector.
@@ -137,6 +166,63 @@ HWY_INLINE void interleave3(D d, const hn::Vec<D> (&v)[3], hn::Vec<D> (&out)[3])
   }
 }
 
+// Vectors whose position p holds vector k's sample where that of p has bit kBit 0, and else vector
+// (k + kDistance) mod 4's.
+template <std::size_t kBit, std::size_t kDistance, class D>
+HWY_INLINE void exchange4(D d, const hn::Vec<D> (&v)[4], hn::Vec<D> (&out)[4]) {
+  using T = hn::TFromD<D>;
+  using Pixel = hwy::MakeWide<hwy::MakeWide<T>>;
+  constexpr int kBits = 8 * sizeof(T);
+  constexpr Pixel kSample = std::numeric_limits<T>::max();
+  constexpr Pixel kOdd = kBit == 1 ? kSample << kBits | kSample << 3 * kBits
+                                   : kSample << 2 * kBits | kSample << 3 * kBits;
+  const auto odd = hn::MaskFromVec(hn::BitCast(d, hn::Set(hn::Repartition<Pixel, D>(), kOdd)));
+  unrolled<4>([&](auto k)
+                  KELI_LAMBDA { out[k] = hn::IfThenElse(odd, v[(k + kDistance) % 4], v[k]); });
+}
+
+// Each pixel of four samples turned by kSamples: position p takes the sample of p + kSamples.
+template <std::size_t kSamples, class D>
+HWY_INLINE hn::Vec<D> turned(D d, hn::Vec<D> v) {
+  using T = hn::TFromD<D>;
+  const hn::Repartition<hwy::MakeWide<hwy::MakeWide<T>>, D> pixels;
+  constexpr int kBits = static_cast<int>(8 * sizeof(T) * (kSamples % 4));
+  if constexpr (kBits == 0) {  // which the library does not leave out
+    return v;
+  } else {
+    return hn::BitCast(d, hn::RotateRight<kBits>(hn::BitCast(pixels, v)));
+  }
+}
+
+template <class D>
+constexpr bool gathersFour() {
+  constexpr std::size_t kSample = sizeof(hn::TFromD<D>);
+  return kPermutesBytes && kSample <= 2 && hn::MaxLanes(D()) * kSample >= 32;
+}
+
+template <class D>
+HWY_INLINE void deinterleave4(D d, const hn::TFromD<D>* src, hn::Vec<D> (&v)[4]) {
+  if constexpr (gathersFour<D>()) {
+    using T = hwy::MakeUnsigned<hn::TFromD<D>>;
+    const hn::RebindToUnsigned<D> du;
+    constexpr std::size_t kN = hn::MaxLanes(D());
+    using Plan = Interleave4<kN * sizeof(T), sizeof(T)>;
+    const hn::Repartition<std::uint8_t, D> d8;
+    hn::Vec<decltype(du)> in[4], half[4], gathered[4];
+    unrolled<4>([&](auto j) KELI_LAMBDA {
+      in[j] = turned<j>(du, hn::BitCast(du, hn::LoadU(d, src + j * kN)));
+    });
+    exchange4<2, 2>(du, in, half);
+    exchange4<1, 3>(du, half, gathered);
+    unrolled<4>([&](auto k) KELI_LAMBDA {
+      v[k] = hn::BitCast(d, permuteBytes(d8, hn::BitCast(d8, gathered[k]),
+                                         hn::LoadU(d8, Plan::kOrdered[k].data())));
+    });
+  } else {
+    hn::LoadInterleaved4(d, src, v[0], v[1], v[2], v[3]);
+  }
+}
+
 // out: four vectors in the order of memory.
 template <class D>
 HWY_INLINE void interleave4(D d, const hn::Vec<D> (&v)[4], hn::Vec<D> (&out)[4]) {
@@ -146,7 +232,20 @@ HWY_INLINE void interleave4(D d, const hn::Vec<D> (&v)[4], hn::Vec<D> (&out)[4])
     T pixels[4 * hn::MaxLanes(D())];
     hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, pixels);
     unrolled<4>([&](auto j) KELI_LAMBDA { out[j] = hn::LoadU(d, pixels + j * hn::MaxLanes(D())); });
+  } else if constexpr (gathersFour<D>()) {
+    const hn::RebindToUnsigned<D> du;
+    using Plan = Interleave4<kBytes, sizeof(T)>;
+    const hn::Repartition<std::uint8_t, D> d8;
+    hn::Vec<decltype(du)> spread[4], half[4], mixed[4];
+    unrolled<4>([&](auto k) KELI_LAMBDA {
+      spread[k] = hn::BitCast(
+          du, permuteBytes(d8, hn::BitCast(d8, v[k]), hn::LoadU(d8, Plan::kSpread[k].data())));
+    });
+    exchange4<1, 1>(du, spread, half);
+    exchange4<2, 2>(du, half, mixed);
+    unrolled<4>([&](auto j) KELI_LAMBDA { out[j] = hn::BitCast(d, turned<4 - j>(du, mixed[j])); });
   } else {
+    static_assert(kBytes <= 32, "longer vectors have more than two blocks");
     using Pair = hwy::MakeWide<hwy::MakeUnsigned<T>>;
     const hn::Repartition<Pair, D> dp;
     // Pairs of channels 0 1 and 2 3, of the lower and the upper half of every block.

@@ -29,6 +29,22 @@ struct Masked {
     static constexpr std::size_t from(std::size_t) { return 0; }
   };
 
+  // The same by permutations, where the mask bytes of a step fill a vector.
+  template <std::size_t kN>
+  static constexpr bool permutes() {
+    return kPermutesBytes && kPixel == 3 && kN >= 32;
+  }
+
+  template <std::size_t kN>
+  static constexpr std::array<std::array<std::uint8_t, kN>, kPixel> makePlaces() {
+    std::array<std::array<std::uint8_t, kN>, kPixel> a{};
+    for (std::size_t j = 0; j < kPixel * kN; ++j)
+      a[j / kN][j % kN] = static_cast<std::uint8_t>(j / kPixel);
+    return a;
+  }
+  template <std::size_t kN>
+  static constexpr std::array<std::array<std::uint8_t, kN>, kPixel> kPlaces = makePlaces<kN>();
+
   template <class Source>
   static HWY_INLINE void pixels(const std::uint8_t* mask, const Source& source, std::uint8_t* dst,
                                 std::size_t x, std::size_t n) {
@@ -67,6 +83,8 @@ struct Masked {
       hn::Vec<D> wanted;
       if constexpr (kPixel == 1) {
         wanted = hn::LoadU(d, mask + x);
+      } else if constexpr (permutes<kN>()) {
+        wanted = permuteBytes(d, hn::LoadU(d, mask + x), hn::LoadU(d, kPlaces<kN>[v].data()));
       } else {
         wanted = shuffled<v>(d, mask + x, ShuffleIndices<Spread, D>::fixed());
       }
@@ -82,11 +100,16 @@ struct Masked {
   static HWY_INLINE bool steps(D d, const std::uint8_t* mask, const Source& source,
                                std::uint8_t* dst, std::size_t n) {
     using Plan = ShufflePlan<Spread, hn::MaxLanes(D())>;
+    static_assert(!permutes<hn::MaxLanes(D())>() || Plan::kPixels == hn::MaxLanes(D()));
     constexpr std::size_t kPixels = Plan::kPixels;
     constexpr std::size_t kUnroll = Plan::kVectors == 1 ? 4 : Plan::kVectors == 3 ? 2 : 1;
     if (n < kPixels) return false;
     const std::size_t end = n - kPixels;
     std::size_t x = 0;
+    if constexpr (hn::MaxLanes(D()) == 64) {  // goes on at a cache line
+      step(d, mask, source, dst, 0);
+      x = std::min(unitsToLine(dst, kPixel, 0), end);
+    }
     for (; kUnroll > 1 && x + kUnroll * kPixels <= end; x += kUnroll * kPixels) {
       unrolled<kUnroll>([&](auto u) KELI_LAMBDA { step(d, mask, source, dst, x + u * kPixels); });
     }
@@ -101,6 +124,7 @@ struct Masked {
   static HWY_INLINE void row(const std::uint8_t* mask, const Source& source, std::uint8_t* dst,
                              std::size_t n) {
     if constexpr (!kScalarTarget) {
+      if (permutes<64>() && steps(hn::CappedTag<std::uint8_t, 64>(), mask, source, dst, n)) return;
       if (steps(hn::CappedTag<std::uint8_t, 32>(), mask, source, dst, n) ||
           steps(hn::CappedTag<std::uint8_t, 16>(), mask, source, dst, n)) {
         return;

@@ -110,33 +110,57 @@ struct Move {
   using BlockTag = std::conditional_t<kPermutesBytes, hn::CappedTag<std::uint8_t, 64>, D16>;
   using Block = BlockPlan<Map, hn::MaxLanes(BlockTag())>;
 
+  // The pixels that end a row of blocks: a block that starts before them lies within the row.
+  static constexpr std::size_t kEndSteps =
+      (hn::MaxLanes(BlockTag()) - 1) / (Step<D32>::Plan::kPixels * std::min(Map::kSrc, Map::kDst)) +
+      1;
+  static constexpr std::size_t kEnd = kEndSteps * Step<D32>::Plan::kPixels;
+
   // Blocks beat steps that put vectors together from several windows, if they waste little of a
-  // store; one that starts before the last step must lie within the row.
+  // store; where some bytes are kept, if they are of 64 bytes and waste nothing.
   static constexpr bool prefersBlocks() {
     constexpr std::size_t kLanes = hn::MaxLanes(BlockTag());
-    constexpr std::size_t kEnd = Step<D32>::Plan::kPixels;
-    return !keepsSome() && 4 * Block::kBytes >= 3 * kLanes &&
-           kEnd * std::min(Map::kSrc, Map::kDst) >= kLanes;
+    return keepsSome() ? Block::kBytes == 64 : 4 * Block::kBytes >= 3 * kLanes;
   }
 
-  // A row of n whole pixels in blocks, not in place: at least a step, which ends it. The one use of
-  // 64-byte vectors: overlapping stores straddle lines anyway, and fewer of them do.
+  // A row of n whole pixels in blocks: at least kEnd. Of 64-byte vectors, as overlapping stores
+  // straddle lines anyway, and fewer of them do. Each block is loaded before the one ahead of it is
+  // stored, which spills into it in place.
   static HWY_INLINE void blocks(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
                                 hn::Vec<BlockTag> block, const ShuffleIndices<Map, D32>& indices) {
-    constexpr std::size_t kEnd = Step<D32>::Plan::kPixels;
+    constexpr std::size_t kStepPixels = Step<D32>::Plan::kPixels;
+    constexpr std::size_t kPixels = Block::kPixels;
+    static constexpr auto kWritten = writtenPattern<hn::MaxLanes(BlockTag())>();
     const BlockTag d;
+    const auto written = hn::MaskFromVec(hn::LoadU(d, kWritten.data()));
     const std::size_t end = n - kEnd;
+    Step<D32> last[kEndSteps];
+    unrolled<kEndSteps>([&](auto u) KELI_LAMBDA {
+      last[u].load(src + (end + u * kStepPixels) * Map::kSrc, indices);
+    });
+    auto next = hn::LoadU(d, src);
+    const auto put = [&](std::size_t x) KELI_LAMBDA {
+      const auto moved = shuffleAll(d, next, block);
+      if constexpr (keepsSome()) {
+        storeWhere(d, written, moved, dst + x * Map::kDst);
+      } else {
+        hn::StoreU(moved, d, dst + x * Map::kDst);
+      }
+    };
     const auto move = [&](std::size_t x) KELI_LAMBDA {
-      hn::StoreU(shuffleAll(d, hn::LoadU(d, src + x * Map::kSrc), block), d, dst + x * Map::kDst);
+      const auto ahead = hn::LoadU(d, src + (x + kPixels) * Map::kSrc);
+      put(x);
+      next = ahead;
     };
     std::size_t x = 0;
-    for (; x + 3 * Block::kPixels < end; x += 4 * Block::kPixels) {
-      unrolled<4>([&](auto u) KELI_LAMBDA { move(x + u * Block::kPixels); });
+    for (; x + 4 * kPixels < end; x += 4 * kPixels) {
+      unrolled<4>([&](auto u) KELI_LAMBDA { move(x + u * kPixels); });
     }
-    for (; x < end; x += Block::kPixels) move(x);
-    Step<D32> last;
-    last.load(src + end * Map::kSrc, indices);
-    last.template store<false>(dst + end * Map::kDst);
+    for (; x + kPixels < end; x += kPixels) move(x);
+    if (x < end) put(x);
+    unrolled<kEndSteps>([&](auto u) KELI_LAMBDA {
+      last[u].template store<false>(dst + (end + u * kStepPixels) * Map::kDst);
+    });
   }
 
   // A row of any length.
@@ -151,44 +175,61 @@ struct Move {
 
   template <class Choice>
   static HWY_INLINE void band(const Band<1>& b, const Choice& choice) {
-    constexpr std::size_t kLong = 4096 / Map::kDst;
-    static_assert(kLong >= 64 + 1 + Step<D32>::Plan::kPixels, "a step is left after the head");
+    const std::size_t whole = Map::kWhole ? b.n : b.n - 1;
+    const bool streams = b.streams && !keepsSome();
+    if (whole < Step<D32>::Plan::kPixels) {
+      narrow(b, choice);
+    } else if (prefersBlocks() && !streams && whole >= kEnd) {
+      wide<prefersBlocks()>(b, choice);
+    } else {
+      wide<false>(b, choice);
+    }
+    if (streams) hwy::FlushStream();
+  }
+
+  // Rows of less than a step of D32.
+  template <class Choice>
+  static HWY_INLINE void narrow(const Band<1>& b, const Choice& choice) {
     const ShuffleIndices<Map, D16> indices = choice.indices(D16());
-    const ShuffleIndices<Map, D32> wide = choice.indices(D32());
-    const bool inBlocks = prefersBlocks() && !b.streams && b.src[0] != b.dst;
+    for (std::size_t y = 0; y < b.rows; ++y) {
+      row(b.srcRow<std::uint8_t>(0, y), b.dstRow<std::uint8_t>(y), b.n, choice, indices);
+    }
+  }
+
+  // Rows of at least a step of D32.
+  template <bool kInBlocks, class Choice>
+  static HWY_INLINE void wide(const Band<1>& b, const Choice& choice) {
+    constexpr std::size_t kLong = 4096 / Map::kDst;
+    static_assert(kLong >= 64 + 1 + kEnd, "a step is left after the head");
+    const ShuffleIndices<Map, D32> indices = choice.indices(D32());
     for (std::size_t y = 0; y < b.rows; ++y) {
       const std::uint8_t* src = b.srcRow<std::uint8_t>(0, y);
       std::uint8_t* dst = b.dstRow<std::uint8_t>(y);
       std::size_t n = b.n;
       bool onLine = false;
       // As in map-inl.h, a long row's first pixels are set apart up to a cache line.
-      if (n >= kLong && !inBlocks) {
+      if (n >= kLong && (!kInBlocks || Block::kBytes == 64)) {
         const std::size_t head = unitsToLine(dst, Map::kDst, n);
         onLine = head != n;
         if (onLine && head != 0) {
-          row(src, dst, head, choice, indices);
+          row(src, dst, head, choice, choice.indices(D16()));
           src += head * Map::kSrc;
           dst += head * Map::kDst;
           n -= head;
         }
       }
       const std::size_t whole = Map::kWhole ? n : n - 1;
-      if (whole < Step<D32>::Plan::kPixels) {
-        row(src, dst, n, choice, indices);
-        continue;
-      }
-      if (!keepsSome() && b.streams && onLine) {
-        steps<!keepsSome()>(D32(), src, dst, whole, wide);
-      } else if (inBlocks) {
-        if constexpr (prefersBlocks()) blocks(src, dst, whole, choice.block(BlockTag()), wide);
+      if constexpr (kInBlocks) {
+        blocks(src, dst, whole, choice.block(BlockTag()), indices);
+      } else if (!keepsSome() && b.streams && onLine) {
+        steps<!keepsSome()>(D32(), src, dst, whole, indices);
       } else {
-        steps<false>(D32(), src, dst, whole, wide);
+        steps<false>(D32(), src, dst, whole, indices);
       }
       if constexpr (!Map::kWhole) {
         pixels(src + whole * Map::kSrc, dst + whole * Map::kDst, 1, choice);
       }
     }
-    if (b.streams) hwy::FlushStream();
   }
 };
 

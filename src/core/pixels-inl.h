@@ -24,7 +24,9 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
-template <Layout kFrom, Layout kTo, class TS, class TD>
+// kMostBytes: of a vector; 64 pays where channels are put in order in the first-level cache. Stores
+// around the caches are of 32.
+template <Layout kFrom, Layout kTo, class TS, class TD, std::size_t kMostBytes>
 struct Pixels {
   static constexpr std::size_t kIn = usedChannels(kFrom);
   static constexpr std::size_t kOut = usedChannels(kTo);
@@ -46,11 +48,10 @@ struct Pixels {
       hn::Vec<D> three[3];
       deinterleave3(d, src[0] + 3 * x, three);
       unrolled<3>([&](auto k) KELI_LAMBDA { v[k] = three[k]; });
-    } else if constexpr (kIn == 4) {
-      hn::LoadInterleaved4(d, src[0] + 4 * x, v[0], v[1], v[2], v[3]);
     } else {
-      hn::Vec<D> alpha;
-      hn::LoadInterleaved4(d, src[0] + 4 * x, v[0], v[1], v[2], alpha);
+      hn::Vec<D> four[4];
+      deinterleave4(d, src[0] + 4 * x, four);
+      unrolled<kIn>([&](auto k) KELI_LAMBDA { v[k] = four[k]; });
     }
     return v;
   }
@@ -155,7 +156,7 @@ struct Pixels {
   template <class Op>
   static HWY_INLINE void row(const Op& op, bool streams, Source src, Destination dst,
                              std::size_t n) {
-    constexpr std::size_t kVectorBytes = std::min(HWY_MAX_BYTES, 32);
+    constexpr std::size_t kVectorBytes = std::min<std::size_t>(HWY_MAX_BYTES, kMostBytes);
     constexpr std::size_t kLong = 4096 / sizeof(TD);
     if constexpr (kScalarTarget) {
       samples(op, src, dst, 0, n);
@@ -168,7 +169,7 @@ struct Pixels {
       for (std::size_t k = 0; k < kPlanesIn; ++k) restSrc[k] = src[k] + pixelSamples(kFrom) * head;
       for (std::size_t k = 0; k < kPlanesOut; ++k) restDst[k] = dst[k] + pixelSamples(kTo) * head;
       if (streams && !kKeepsFourth) {
-        vectors<true, kVectorBytes>(op, restSrc, restDst, n - head);
+        vectors<true, std::min<std::size_t>(kVectorBytes, 32)>(op, restSrc, restDst, n - head);
       } else {
         vectors<false, kVectorBytes>(op, restSrc, restDst, n - head);
       }
@@ -176,9 +177,9 @@ struct Pixels {
   }
 };
 
-template <Layout kFrom, Layout kTo, class TS, class TD, class Op>
+template <Layout kFrom, Layout kTo, class TS, class TD, std::size_t kMostBytes = 32, class Op>
 HWY_INLINE void mapPixels(const PlanesBand& b, const Op& op) {
-  using P = Pixels<kFrom, kTo, TS, TD>;
+  using P = Pixels<kFrom, kTo, TS, TD, kMostBytes>;
   for (std::size_t y = 0; y < b.rows; ++y) {
     const TS* src[4] = {};
     TD* dst[4] = {};

@@ -146,8 +146,7 @@ HWY_INLINE hn::Vec<D> shuffled(D d, const std::uint8_t* src,
 }
 
 // Whole pixels within one vector: one load, one shuffle, one store, whose spare bytes are written
-// again with the next pixels. Not for use in place, where each load would wait for the store before
-// it.
+// again with the next pixels.
 template <class Map, std::size_t kN>
 struct BlockPlan {
   static constexpr std::size_t kPixels = kN / std::max(Map::kSrc, Map::kDst);

@@ -27,7 +27,7 @@ struct IdentityPixels {
 
 template <class T, Layout kFrom, Layout kTo>
 void ownCopyPlanes(const PlanesBand& b) {
-  mapPixels<kFrom, kTo, T, T>(b, IdentityPixels());
+  mapPixels<kFrom, kTo, T, T, sizeof(T) <= 2 ? 64 : 32>(b, IdentityPixels());
 }
 
 const data::CopyPlanesRows kCopyPlanesRows = {

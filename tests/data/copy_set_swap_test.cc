@@ -75,7 +75,8 @@ TEST(Data, CopySetSwapChannelsAreTheirDefinitions) {
     ++members;
     for (const std::int64_t target : testedTargets()) {
       const UseTarget use(target);
-      for (const int width : {1, 2, 3, 7, 15, 16, 17, 31, 32, 33, 45, 64, 65, 96, 100, 257, 1001}) {
+      for (const int width :
+           {1, 2, 3, 7, 15, 16, 17, 31, 32, 33, 45, 64, 65, 96, 100, 257, 1001, 4099}) {
         // With and without padding; different orders and constants by the seed.
         for (const int padding : {0, 5}) {
           const Geometry g = {width, 3, padding, Place::kMiddle, padding};
