@@ -1,8 +1,9 @@
 #!/bin/bash
 # A tour of the functions: runs the tool on the sample photographs, printing every command, and puts
-# the results on one labelled sheet. Needs ImageMagick and the DejaVu fonts.
+# the results on labelled sheets, one for each group of families. Needs ImageMagick and the DejaVu
+# fonts.
 #
-# Usage: examples/tour.sh BUILD_DIR OUT.png
+# Usage: examples/tour.sh BUILD_DIR OUT.png   (the sheets in one; each in OUT-1.png, OUT-2.png, ...)
 set -euo pipefail
 
 if [ $# -ne 2 ]; then
@@ -28,15 +29,27 @@ convert -size 400x300 xc:teal \( -size 400x300 radial-gradient:white-black -leve
   -alpha off -compose CopyOpacity -composite -define png:color-type=6 faded.png
 
 panels=()
+sheets=()
+made=0
 photograph() { panels+=(-label "$1\nthe photograph" "$1"); }
 
 # panel "NOTE" FUNCTION ARGUMENTS...: one command, one panel.
 panel() {
-  local note=$1 out=$(( ${#panels[@]} / 3 )).png
+  local note=$1 out=$(( made++ )).png
   shift
   printf 'keli run %s -o %s\n    ' "$*" "$out"
   "$keli" run "$@" -o "$out"
   panels+=(-label "$1\n$note" "$out")
+}
+
+# Puts the panels since the last call on a sheet.
+endSheet() {
+  local file=${sheet%.png}-$(( ${#sheets[@]} + 1 )).png
+  montage -font DejaVu-Sans -pointsize 13 -fill '#222222' -background white \
+    "${panels[@]}" -tile 4x -geometry 240x180+8+6 -depth 8 "$file"
+  echo "$(( ${#panels[@]} / 3 )) panels on $file"
+  sheets+=("$file")
+  panels=()
 }
 
 photograph astronaut.png
@@ -73,6 +86,32 @@ panel "order 1,2,0" keliSwapChannels_32f_C3R coffee.png --dstOrder 1,2,0
 panel "in place, order 0,0,0" keliSwapChannels_8u_C3IR coffee.png --dstOrder 0,0,0
 panel "order 2,0,1, alpha kept" keliSwapChannels_8u_AC4R coffee.png --dstOrder 2,0,1 --dst faded.png
 
-montage -font DejaVu-Sans -pointsize 13 -fill '#222222' -background white \
-  "${panels[@]}" -tile 4x -geometry 240x180+8+6 -depth 8 "$sheet"
-echo "$(( ${#panels[@]} / 3 )) panels on $2"
+endSheet
+
+# The half-bright picture is one that a difference or a quotient can be seen in.
+convert coffee.png -evaluate multiply 0.5 dark.png
+photograph coffee.png
+photograph chelsea.png
+photograph disc.png
+panel "half of the sum" keliAdd_8u_C3RSfs coffee.png chelsea.png --scaleFactor 1
+panel "a constant added, saturated" keliAddC_8u_C3RSfs coffee.png --value 90,0,0 --scaleFactor 0
+panel "chelsea.png minus coffee.png" keliSub_8u_C3RSfs coffee.png chelsea.png --scaleFactor 0
+panel "a constant subtracted" keliSubC_8u_C3RSfs coffee.png --value 80,80,80 --scaleFactor 0
+panel "product / 256" keliMul_8u_C3RSfs coffee.png chelsea.png --scaleFactor 8
+panel "brighter: times 3 / 2" keliMulC_8u_C3RSfs coffee.png --value 3,3,3 --scaleFactor 1
+panel "product / 255" keliMulScale_8u_C3R coffee.png chelsea.png
+panel "chelsea.png / coffee.png * 64" keliDiv_8u_C3RSfs coffee.png chelsea.png --scaleFactor -6
+panel "red / 4" keliDivC_8u_C3RSfs coffee.png --value 4,1,1 --scaleFactor 0
+panel "square / 256: darker middle tones" keliSqr_8u_C3RSfs coffee.png --scaleFactor 8
+panel "square root * 16: brighter" keliSqrt_8u_C3RSfs dark.png --scaleFactor -4
+panel "logarithm * 32" keliLn_8u_C3RSfs dark.png --scaleFactor -5
+panel "bits cleared outside a disc" keliAnd_8u_C1R camera.png disc.png
+panel "bits set inside a disc" keliOr_8u_C1R camera.png disc.png
+panel "inverted inside a disc" keliXor_8u_C1R camera.png disc.png
+panel "negative" keliNot_8u_C3R coffee.png
+panel "two bits of each sample kept" keliAndC_8u_C3R coffee.png --value 192,192,192
+panel "right by 2: a quarter" keliRShiftC_8u_C3R coffee.png --value 2,2,2
+panel "left by 2: the lower bits" keliLShiftC_8u_C3R coffee.png --value 2,2,2
+endSheet
+
+convert -background white "${sheets[@]}" -append "$sheet"
