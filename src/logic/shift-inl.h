@@ -3,7 +3,7 @@
 //
 // Lanes of 8 and 16 bits have no shifts of their own by different counts; they are multiplied by
 // powers of two instead. Bytes are taken in lanes of 16 bits, the even and the odd ones apart, with
-// products whose wanted half lies where the byte belongs.
+// products whose wanted half lies where the byte belongs. Only the best targets can do without.
 //
 // Lanes has
 //   set(k, count)                prepares channel k
@@ -34,6 +34,7 @@ HWY_INLINE T powerOfTwo(std::uint32_t count) {
 template <class Sample>
 struct Left {
   using T = Sample;
+  static constexpr bool kToLeft = true;
   static HWY_INLINE T scalar(T v, std::uint32_t count) {
     using Bits = hwy::MakeUnsigned<T>;
     return static_cast<T>(static_cast<Bits>(v) * powerOfTwo<Bits>(count));
@@ -43,6 +44,7 @@ struct Left {
 template <class Sample>
 struct Right {
   using T = Sample;
+  static constexpr bool kToLeft = false;
   static constexpr std::uint32_t kBits = 8 * sizeof(T);
   // In 64 bits a count of the sample's width is an ordinary one.
   static HWY_INLINE T scalar(T v, std::uint32_t count) {
@@ -69,6 +71,48 @@ template <class V>
 struct EvenOdd {
   V even;
   V odd;
+};
+
+// Bytes where pickBits is one instruction: 8 bits from a place next to the byte, of which those of
+// the byte itself stay. A sign that has moved to bit m is extended by (v ^ 2^m) - 2^m.
+// Definition: Left or Right.
+template <class Definition>
+struct PickedBytes : Definition {
+  using typename Definition::T;
+  PerChannel<std::uint8_t> moves;  // bits to the right
+  PerChannel<std::uint8_t> stays;
+  PerChannel<std::uint8_t> sign;
+
+  HWY_INLINE void set(std::size_t k, std::uint32_t count) {
+    constexpr std::uint32_t kMost = std::is_signed_v<T> ? 7 : 8;
+    const int places = static_cast<int>(count < kMost ? count : kMost);
+    moves.values[k] = static_cast<std::uint8_t>(Definition::kToLeft ? -places : places);
+    stays.values[k] =
+        static_cast<std::uint8_t>(Definition::kToLeft ? 0xFF << places : 0xFF >> places);
+    sign.values[k] = static_cast<std::uint8_t>(128 >> places);
+  }
+
+  template <class D>
+  using Unsigned = hn::RebindToUnsigned<D>;
+  template <class D>
+  struct Vectors {
+    hn::Vec<Unsigned<D>> firstBits;
+    hn::Vec<Unsigned<D>> stays;
+    hn::Vec<Unsigned<D>> sign;
+  };
+  template <std::size_t kPeriod, class D>
+  HWY_INLINE Vectors<D> at(D, std::size_t phase) const {
+    const Unsigned<D> du;
+    return {hn::ShiftLeft<3>(hn::Iota(du, 0)) + moves.at<kPeriod>(du, phase),
+            stays.at<kPeriod>(du, phase), sign.at<kPeriod>(du, phase)};
+  }
+  template <class D, class V>
+  static HWY_INLINE V vector(D d, const Vectors<D>& k, V v) {
+    const Unsigned<D> du;
+    const auto moved = hn::And(pickBits(du, hn::BitCast(du, v), k.firstBits), k.stays);
+    if constexpr (std::is_signed_v<T>) return hn::BitCast(d, hn::Xor(moved, k.sign) - k.sign);
+    return hn::BitCast(d, moved);
+  }
 };
 
 template <class Lanes, std::size_t kChannels>

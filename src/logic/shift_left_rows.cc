@@ -100,7 +100,9 @@ struct Left32 : Left<std::int32_t> {
   }
 };
 
-constexpr logic::ShiftKernels kLeft8 = kShiftsWithCommon<Left8, LeftCommon8>;
+using LeftBytes = std::conditional_t<kShiftsNarrowLanes, PickedBytes<Left<Kel8u>>, Left8>;
+
+constexpr logic::ShiftKernels kLeft8 = kShiftsWithCommon<LeftBytes, LeftCommon8>;
 constexpr logic::ShiftKernels kLeft16 = kShifts<Left16>;
 constexpr logic::ShiftKernels kLeft32 = kShifts<Left32>;
 

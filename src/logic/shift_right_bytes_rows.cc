@@ -47,7 +47,7 @@ struct Right8 : Right<Sample> {
   }
 };
 
-// By 1 and more. Signed samples are shifted as unsigned ones, 128 higher, and set back.
+// By 1 and more. A sign that has moved to bit m is extended by (v ^ 2^m) - 2^m.
 template <class Sample>
 struct RightCommon8 : Right<Sample> {
   int count;
@@ -59,30 +59,28 @@ struct RightCommon8 : Right<Sample> {
   template <class D>
   struct Vectors {
     ShiftRightBy<Unsigned<D>> shift;
-    hn::Vec<Unsigned<D>> raised;
-    hn::Vec<Unsigned<D>> lowered;
+    hn::Vec<Unsigned<D>> sign;
   };
   template <std::size_t, class D>
   HWY_INLINE Vectors<D> at(D, std::size_t) const {
-    // Eight places would take the raised sample to 0 or 1, seven take it to 0 or 1 too many.
     const int places = std::is_signed_v<Sample> && count > 7 ? 7 : count;
     const Unsigned<D> du;
-    return {ShiftRightBy<Unsigned<D>>::make(du, places), hn::Set(du, 128),
+    return {ShiftRightBy<Unsigned<D>>::make(du, places),
             hn::Set(du, static_cast<std::uint8_t>(128 >> places))};
   }
   template <class D, class V>
   static HWY_INLINE V vector(D d, const Vectors<D>& k, V v) {
-    const auto bits = hn::BitCast(Unsigned<D>(), v);
-    if constexpr (std::is_signed_v<Sample>) {
-      return hn::BitCast(d, k.shift(hn::Xor(bits, k.raised)) - k.lowered);
-    } else {
-      return k.shift(bits);
-    }
+    const auto moved = k.shift(hn::BitCast(Unsigned<D>(), v));
+    if constexpr (std::is_signed_v<Sample>) return hn::BitCast(d, hn::Xor(moved, k.sign) - k.sign);
+    return hn::BitCast(d, moved);
   }
 };
 
-constexpr logic::ShiftKernels kRight8u = kShiftsWithCommon<Right8<Kel8u>, RightCommon8<Kel8u>>;
-constexpr logic::ShiftKernels kRight8s = kShiftsWithCommon<Right8<Kel8s>, RightCommon8<Kel8s>>;
+template <class T>
+using RightBytes = std::conditional_t<kShiftsNarrowLanes, PickedBytes<Right<T>>, Right8<T>>;
+
+constexpr logic::ShiftKernels kRight8u = kShiftsWithCommon<RightBytes<Kel8u>, RightCommon8<Kel8u>>;
+constexpr logic::ShiftKernels kRight8s = kShiftsWithCommon<RightBytes<Kel8s>, RightCommon8<Kel8s>>;
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();

@@ -38,19 +38,24 @@ struct Right16 : Right<Sample> {
   }
   template <class D, class V>
   static HWY_INLINE V vector(D, const Vectors<D>& k, V v) {
-    return hn::MulHigh(v, k.factor) + hn::And(v, k.tooLow);
+    const V high = hn::MulHigh(v, k.factor);
+    if constexpr (std::is_signed_v<Sample>) return high + hn::And(v, k.tooLow);
+    return hn::OrAnd(high, v, k.tooLow);  // one of them is 0
   }
 };
 
-struct Right32 : Right<std::int32_t> {
-  PerChannel<std::int32_t> counts;
+// Lanes that have shifts of their own: signed ones of 32 bits, and of 16 on the best targets.
+template <class Sample>
+struct RightByLane : Right<Sample> {
+  PerChannel<Sample> counts;
 
   HWY_INLINE void set(std::size_t k, std::uint32_t count) {
-    counts.values[k] = static_cast<std::int32_t>(count < 31 ? count : 31);
+    constexpr std::uint32_t kMost = Right<Sample>::kBits - 1;
+    counts.values[k] = static_cast<Sample>(count < kMost ? count : kMost);
   }
   template <std::size_t kPeriod, class D>
   HWY_INLINE auto at(D d, std::size_t phase) const {
-    return counts.at<kPeriod>(d, phase);
+    return counts.template at<kPeriod>(d, phase);
   }
   template <class D, class V>
   static HWY_INLINE V vector(D, V count, V v) {
@@ -58,9 +63,11 @@ struct Right32 : Right<std::int32_t> {
   }
 };
 
+using Right16s = std::conditional_t<kShiftsNarrowLanes, RightByLane<Kel16s>, Right16<Kel16s>>;
+
 constexpr logic::ShiftKernels kRight16u = kShifts<Right16<Kel16u>>;
-constexpr logic::ShiftKernels kRight16s = kShifts<Right16<Kel16s>>;
-constexpr logic::ShiftKernels kRight32s = kShifts<Right32>;
+constexpr logic::ShiftKernels kRight16s = kShifts<Right16s>;
+constexpr logic::ShiftKernels kRight32s = kShifts<RightByLane<Kel32s>>;
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();

@@ -72,7 +72,7 @@ constexpr std::uint32_t kCounts[] = {0,  1,  7,  8,  9,   15,  16,         17,
 void setCounts(TestCall& call, std::size_t first) {
   const std::size_t i = call.find(registry::Role::kShift);
   if (call.function.arguments[i].length == 0) {
-    call.values[i].i = kCounts[first];
+    call.values[i].i = kCounts[first % std::size(kCounts)];
     return;
   }
   for (int k = 0; k < call.function.arguments[i].length; ++k, first += 5) {
@@ -87,10 +87,10 @@ void checkShifts(bool left, Type type) {
   const auto definition = [&](T v, std::uint32_t count, int) { return shifted(left, v, count); };
   const int members = forMembers(operation, type, [&](const Function& f) {
     checkMember<T, std::uint32_t>(f, {}, definition);
-    for (std::size_t first = 0; first < std::size(kCounts); ++first) {
-      checkMember<T, std::uint32_t>(f, {}, definition,
-                                    [&](TestCall& call) { setCounts(call, first); });
-    }
+    // Prepares each call, and then the one that it is compared with.
+    std::size_t prepared = 0;
+    checkMember<T, std::uint32_t>(f, {}, definition,
+                                  [&](TestCall& call) { setCounts(call, prepared++ / 2); });
   });
   EXPECT_EQ(members, 8) << operation;
 }
