@@ -752,6 +752,341 @@ KELI_API KelStatus keliMulCScale_16u_C3IR(const Kel16u value[3], Kel16u* pSrcDst
 KELI_API KelStatus keliMulCScale_16u_C4IR(const Kel16u value[4], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
 KELI_API KelStatus keliMulCScale_16u_AC4IR(const Kel16u value[3], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
 
+/* ==== Bitwise operations and shifts ==== */
+
+/**
+ * Forms the bitwise conjunction of two images.
+ *
+ *     dst = src1 & src2
+ *
+ * In place the result replaces the second source. AC4 leaves the fourth sample of every pixel
+ * as it was. Steps are checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliAnd_8u_C1R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_8u_C3R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_8u_C4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_8u_AC4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_8u_C1IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_8u_C3IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_8u_C4IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_8u_AC4IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_16u_C1R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_16u_C3R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_16u_C4R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_16u_AC4R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_16u_C1IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_16u_C3IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_16u_C4IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_16u_AC4IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_32s_C1R(const Kel32s* pSrc1, int src1Step, const Kel32s* pSrc2, int src2Step, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_32s_C3R(const Kel32s* pSrc1, int src1Step, const Kel32s* pSrc2, int src2Step, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_32s_C4R(const Kel32s* pSrc1, int src1Step, const Kel32s* pSrc2, int src2Step, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_32s_AC4R(const Kel32s* pSrc1, int src1Step, const Kel32s* pSrc2, int src2Step, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_32s_C1IR(const Kel32s* pSrc, int srcStep, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_32s_C3IR(const Kel32s* pSrc, int srcStep, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_32s_C4IR(const Kel32s* pSrc, int srcStep, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAnd_32s_AC4IR(const Kel32s* pSrc, int srcStep, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Forms the bitwise disjunction of two images.
+ *
+ *     dst = src1 | src2
+ *
+ * In place the result replaces the second source. AC4 leaves the fourth sample of every pixel
+ * as it was. Steps are checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliOr_8u_C1R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_8u_C3R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_8u_C4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_8u_AC4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_8u_C1IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_8u_C3IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_8u_C4IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_8u_AC4IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_16u_C1R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_16u_C3R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_16u_C4R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_16u_AC4R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_16u_C1IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_16u_C3IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_16u_C4IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_16u_AC4IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_32s_C1R(const Kel32s* pSrc1, int src1Step, const Kel32s* pSrc2, int src2Step, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_32s_C3R(const Kel32s* pSrc1, int src1Step, const Kel32s* pSrc2, int src2Step, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_32s_C4R(const Kel32s* pSrc1, int src1Step, const Kel32s* pSrc2, int src2Step, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_32s_AC4R(const Kel32s* pSrc1, int src1Step, const Kel32s* pSrc2, int src2Step, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_32s_C1IR(const Kel32s* pSrc, int srcStep, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_32s_C3IR(const Kel32s* pSrc, int srcStep, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_32s_C4IR(const Kel32s* pSrc, int srcStep, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOr_32s_AC4IR(const Kel32s* pSrc, int srcStep, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Forms the bitwise exclusive disjunction of two images.
+ *
+ *     dst = src1 ^ src2
+ *
+ * In place the result replaces the second source. AC4 leaves the fourth sample of every pixel
+ * as it was. Steps are checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliXor_8u_C1R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_8u_C3R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_8u_C4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_8u_AC4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_8u_C1IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_8u_C3IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_8u_C4IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_8u_AC4IR(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_16u_C1R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_16u_C3R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_16u_C4R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_16u_AC4R(const Kel16u* pSrc1, int src1Step, const Kel16u* pSrc2, int src2Step, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_16u_C1IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_16u_C3IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_16u_C4IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_16u_AC4IR(const Kel16u* pSrc, int srcStep, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_32s_C1R(const Kel32s* pSrc1, int src1Step, const Kel32s* pSrc2, int src2Step, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_32s_C3R(const Kel32s* pSrc1, int src1Step, const Kel32s* pSrc2, int src2Step, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_32s_C4R(const Kel32s* pSrc1, int src1Step, const Kel32s* pSrc2, int src2Step, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_32s_AC4R(const Kel32s* pSrc1, int src1Step, const Kel32s* pSrc2, int src2Step, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_32s_C1IR(const Kel32s* pSrc, int srcStep, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_32s_C3IR(const Kel32s* pSrc, int srcStep, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_32s_C4IR(const Kel32s* pSrc, int srcStep, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXor_32s_AC4IR(const Kel32s* pSrc, int srcStep, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Forms the bitwise conjunction of an image and a constant.
+ *
+ *     dst = src & value
+ *
+ * The constant is one value for C1, and an array of one value for each channel otherwise (three
+ * for C3 and AC4, four for C4). AC4 leaves the fourth sample of every pixel as it was. Steps
+ * are checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliAndC_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_8u_C3R(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_8u_C4R(const Kel8u* pSrc, int srcStep, const Kel8u value[4], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_8u_AC4R(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_8u_C1IR(Kel8u value, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_8u_C3IR(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_8u_C4IR(const Kel8u value[4], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_8u_AC4IR(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_16u_C1R(const Kel16u* pSrc, int srcStep, Kel16u value, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_16u_C3R(const Kel16u* pSrc, int srcStep, const Kel16u value[3], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_16u_C4R(const Kel16u* pSrc, int srcStep, const Kel16u value[4], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_16u_AC4R(const Kel16u* pSrc, int srcStep, const Kel16u value[3], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_16u_C1IR(Kel16u value, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_16u_C3IR(const Kel16u value[3], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_16u_C4IR(const Kel16u value[4], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_16u_AC4IR(const Kel16u value[3], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_32s_C1R(const Kel32s* pSrc, int srcStep, Kel32s value, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_32s_C3R(const Kel32s* pSrc, int srcStep, const Kel32s value[3], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_32s_C4R(const Kel32s* pSrc, int srcStep, const Kel32s value[4], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_32s_AC4R(const Kel32s* pSrc, int srcStep, const Kel32s value[3], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_32s_C1IR(Kel32s value, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_32s_C3IR(const Kel32s value[3], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_32s_C4IR(const Kel32s value[4], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAndC_32s_AC4IR(const Kel32s value[3], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Forms the bitwise disjunction of an image and a constant.
+ *
+ *     dst = src | value
+ *
+ * The constant is one value for C1, and an array of one value for each channel otherwise (three
+ * for C3 and AC4, four for C4). AC4 leaves the fourth sample of every pixel as it was. Steps
+ * are checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliOrC_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_8u_C3R(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_8u_C4R(const Kel8u* pSrc, int srcStep, const Kel8u value[4], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_8u_AC4R(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_8u_C1IR(Kel8u value, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_8u_C3IR(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_8u_C4IR(const Kel8u value[4], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_8u_AC4IR(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_16u_C1R(const Kel16u* pSrc, int srcStep, Kel16u value, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_16u_C3R(const Kel16u* pSrc, int srcStep, const Kel16u value[3], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_16u_C4R(const Kel16u* pSrc, int srcStep, const Kel16u value[4], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_16u_AC4R(const Kel16u* pSrc, int srcStep, const Kel16u value[3], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_16u_C1IR(Kel16u value, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_16u_C3IR(const Kel16u value[3], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_16u_C4IR(const Kel16u value[4], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_16u_AC4IR(const Kel16u value[3], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_32s_C1R(const Kel32s* pSrc, int srcStep, Kel32s value, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_32s_C3R(const Kel32s* pSrc, int srcStep, const Kel32s value[3], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_32s_C4R(const Kel32s* pSrc, int srcStep, const Kel32s value[4], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_32s_AC4R(const Kel32s* pSrc, int srcStep, const Kel32s value[3], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_32s_C1IR(Kel32s value, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_32s_C3IR(const Kel32s value[3], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_32s_C4IR(const Kel32s value[4], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliOrC_32s_AC4IR(const Kel32s value[3], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Forms the bitwise exclusive disjunction of an image and a constant.
+ *
+ *     dst = src ^ value
+ *
+ * The constant is one value for C1, and an array of one value for each channel otherwise (three
+ * for C3 and AC4, four for C4). AC4 leaves the fourth sample of every pixel as it was. Steps
+ * are checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliXorC_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_8u_C3R(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_8u_C4R(const Kel8u* pSrc, int srcStep, const Kel8u value[4], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_8u_AC4R(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_8u_C1IR(Kel8u value, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_8u_C3IR(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_8u_C4IR(const Kel8u value[4], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_8u_AC4IR(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_16u_C1R(const Kel16u* pSrc, int srcStep, Kel16u value, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_16u_C3R(const Kel16u* pSrc, int srcStep, const Kel16u value[3], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_16u_C4R(const Kel16u* pSrc, int srcStep, const Kel16u value[4], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_16u_AC4R(const Kel16u* pSrc, int srcStep, const Kel16u value[3], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_16u_C1IR(Kel16u value, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_16u_C3IR(const Kel16u value[3], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_16u_C4IR(const Kel16u value[4], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_16u_AC4IR(const Kel16u value[3], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_32s_C1R(const Kel32s* pSrc, int srcStep, Kel32s value, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_32s_C3R(const Kel32s* pSrc, int srcStep, const Kel32s value[3], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_32s_C4R(const Kel32s* pSrc, int srcStep, const Kel32s value[4], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_32s_AC4R(const Kel32s* pSrc, int srcStep, const Kel32s value[3], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_32s_C1IR(Kel32s value, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_32s_C3IR(const Kel32s value[3], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_32s_C4IR(const Kel32s value[4], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliXorC_32s_AC4IR(const Kel32s value[3], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Inverts every bit of an image.
+ *
+ *     dst = ~src = 255 - src
+ *
+ * AC4 leaves the fourth sample of every pixel as it was. Steps are checked before sizes, except
+ * that C3 and C4 report an empty region before anything else.
+ *
+ * Checks, in order: kelStatusBadSize if roiSize is below 1 in width or height (C3 and C4);
+ * kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is below 1;
+ * kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliNot_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliNot_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliNot_8u_C4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliNot_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliNot_8u_C1IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliNot_8u_C3IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliNot_8u_C4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliNot_8u_AC4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Shifts the bits of every sample to the left.
+ *
+ *     dst = src << value
+ *
+ * The count is any unsigned number: one for C1, and an array of one for each channel otherwise
+ * (three for C3 and AC4, four for C4). Bits that leave the sample are lost, and zeros enter:
+ * nothing is saturated, and a count of the sample's width or more (8, 16, 32) gives 0. AC4
+ * leaves the fourth sample of every pixel as it was. Steps are checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliLShiftC_8u_C1R(const Kel8u* pSrc, int srcStep, uint32_t value, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_8u_C3R(const Kel8u* pSrc, int srcStep, const uint32_t value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_8u_C4R(const Kel8u* pSrc, int srcStep, const uint32_t value[4], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_8u_AC4R(const Kel8u* pSrc, int srcStep, const uint32_t value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_8u_C1IR(uint32_t value, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_8u_C3IR(const uint32_t value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_8u_C4IR(const uint32_t value[4], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_8u_AC4IR(const uint32_t value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_16u_C1R(const Kel16u* pSrc, int srcStep, uint32_t value, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_16u_C3R(const Kel16u* pSrc, int srcStep, const uint32_t value[3], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_16u_C4R(const Kel16u* pSrc, int srcStep, const uint32_t value[4], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_16u_AC4R(const Kel16u* pSrc, int srcStep, const uint32_t value[3], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_16u_C1IR(uint32_t value, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_16u_C3IR(const uint32_t value[3], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_16u_C4IR(const uint32_t value[4], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_16u_AC4IR(const uint32_t value[3], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_32s_C1R(const Kel32s* pSrc, int srcStep, uint32_t value, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_32s_C3R(const Kel32s* pSrc, int srcStep, const uint32_t value[3], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_32s_C4R(const Kel32s* pSrc, int srcStep, const uint32_t value[4], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_32s_AC4R(const Kel32s* pSrc, int srcStep, const uint32_t value[3], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_32s_C1IR(uint32_t value, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_32s_C3IR(const uint32_t value[3], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_32s_C4IR(const uint32_t value[4], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliLShiftC_32s_AC4IR(const uint32_t value[3], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Shifts the bits of every sample to the right.
+ *
+ *     dst = src >> value = floor(src / 2^value)
+ *
+ * The count is any unsigned number: one for C1, and an array of one for each channel otherwise
+ * (three for C3 and AC4, four for C4). Zeros enter unsigned samples; the sign is repeated into
+ * signed ones. So a count of the sample's width or more (8, 16, 32) gives 0, or -1 for a
+ * negative sample. AC4 leaves the fourth sample of every pixel as it was. Steps are checked
+ * before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliRShiftC_8u_C1R(const Kel8u* pSrc, int srcStep, uint32_t value, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8u_C3R(const Kel8u* pSrc, int srcStep, const uint32_t value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8u_C4R(const Kel8u* pSrc, int srcStep, const uint32_t value[4], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8u_AC4R(const Kel8u* pSrc, int srcStep, const uint32_t value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8u_C1IR(uint32_t value, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8u_C3IR(const uint32_t value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8u_C4IR(const uint32_t value[4], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8u_AC4IR(const uint32_t value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8s_C1R(const Kel8s* pSrc, int srcStep, uint32_t value, Kel8s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8s_C3R(const Kel8s* pSrc, int srcStep, const uint32_t value[3], Kel8s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8s_C4R(const Kel8s* pSrc, int srcStep, const uint32_t value[4], Kel8s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8s_AC4R(const Kel8s* pSrc, int srcStep, const uint32_t value[3], Kel8s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8s_C1IR(uint32_t value, Kel8s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8s_C3IR(const uint32_t value[3], Kel8s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8s_C4IR(const uint32_t value[4], Kel8s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_8s_AC4IR(const uint32_t value[3], Kel8s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16u_C1R(const Kel16u* pSrc, int srcStep, uint32_t value, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16u_C3R(const Kel16u* pSrc, int srcStep, const uint32_t value[3], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16u_C4R(const Kel16u* pSrc, int srcStep, const uint32_t value[4], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16u_AC4R(const Kel16u* pSrc, int srcStep, const uint32_t value[3], Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16u_C1IR(uint32_t value, Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16u_C3IR(const uint32_t value[3], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16u_C4IR(const uint32_t value[4], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16u_AC4IR(const uint32_t value[3], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16s_C1R(const Kel16s* pSrc, int srcStep, uint32_t value, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16s_C3R(const Kel16s* pSrc, int srcStep, const uint32_t value[3], Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16s_C4R(const Kel16s* pSrc, int srcStep, const uint32_t value[4], Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16s_AC4R(const Kel16s* pSrc, int srcStep, const uint32_t value[3], Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16s_C1IR(uint32_t value, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16s_C3IR(const uint32_t value[3], Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16s_C4IR(const uint32_t value[4], Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_16s_AC4IR(const uint32_t value[3], Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_32s_C1R(const Kel32s* pSrc, int srcStep, uint32_t value, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_32s_C3R(const Kel32s* pSrc, int srcStep, const uint32_t value[3], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_32s_C4R(const Kel32s* pSrc, int srcStep, const uint32_t value[4], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_32s_AC4R(const Kel32s* pSrc, int srcStep, const uint32_t value[3], Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_32s_C1IR(uint32_t value, Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_32s_C3IR(const uint32_t value[3], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_32s_C4IR(const uint32_t value[4], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliRShiftC_32s_AC4IR(const uint32_t value[3], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
+
 #ifdef __cplusplus
 }
 #endif

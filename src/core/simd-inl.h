@@ -46,6 +46,25 @@ template <class D>
 hn::Vec<D> permuteBytes(D, hn::Vec<D> bytes, hn::Vec<D> indices);
 #endif
 
+// Lanes of 8 and 16 bits by counts of their own. pickBits takes each byte from any bit on of the 64
+// that it belongs to, beyond the last of which stands the first.
+#if HWY_TARGET == HWY_AVX3_DL
+constexpr bool kShiftsNarrowLanes = true;
+template <class D>
+HWY_INLINE hn::Vec<D> pickBits(D, hn::Vec<D> bytes, hn::Vec<D> firstBits) {
+  if constexpr (hn::MaxLanes(D()) == 32) {
+    return hn::Vec<D>{_mm256_multishift_epi64_epi8(firstBits.raw, bytes.raw)};
+  } else {
+    static_assert(hn::MaxLanes(D()) <= 16);
+    return hn::Vec<D>{_mm_multishift_epi64_epi8(firstBits.raw, bytes.raw)};
+  }
+}
+#else
+constexpr bool kShiftsNarrowLanes = false;
+template <class D>
+hn::Vec<D> pickBits(D, hn::Vec<D> bytes, hn::Vec<D> firstBits);
+#endif
+
 // Samples stand at any address.
 template <class T>
 HWY_INLINE T load(const T* p) {
