@@ -27,9 +27,11 @@ struct DivideShorts {
   static constexpr float kZero = 0x1p-90f;  // in place of 0: all quotients but 0 / 0 saturate
 
   int scaleFactor;
+  float factor;
 
   // A quotient is at most 2^15 and, but for 0, at least 2^-15.
-  explicit DivideShorts(int sf) : scaleFactor(std::clamp(sf, -31, 17)) {}
+  explicit DivideShorts(int sf)
+      : scaleFactor(std::clamp(sf, -31, 17)), factor(division::powerOfTwo(scaleFactor)) {}
 
   template <class D>
   HWY_INLINE Nothing at(D, std::size_t) const {
@@ -37,7 +39,6 @@ struct DivideShorts {
   }
   template <class D, class V>
   HWY_INLINE V vector(D d, Nothing, V a, V b) const {
-    const float factor = division::powerOfTwo(scaleFactor);
     return mapAsInts(d, a, b, [&](auto divisor, auto dividend) KELI_LAMBDA {
       const hn::DFromV<decltype(divisor)> di;
       const hn::RebindToFloat<decltype(di)> df;

@@ -20,8 +20,10 @@ struct DivideBytesUp {
   static constexpr std::size_t kPeriod = 1;
   static constexpr std::size_t kUnroll = 2;
   int scaleFactor;
+  float factor;
 
-  explicit DivideBytesUp(int sf) : scaleFactor(std::max(sf, -17)) {}
+  explicit DivideBytesUp(int sf)
+      : scaleFactor(std::max(sf, -17)), factor(division::powerOfTwo(scaleFactor)) {}
 
   template <class D>
   HWY_INLINE Nothing at(D, std::size_t) const {
@@ -29,7 +31,6 @@ struct DivideBytesUp {
   }
   template <class D, class V>
   HWY_INLINE V vector(D d, Nothing, V a, V b) const {
-    const float factor = division::powerOfTwo(scaleFactor);
     return mapAsInts(d, a, b, [&](auto divisor, auto dividend) KELI_LAMBDA {
       const hn::DFromV<decltype(divisor)> di;
       const hn::RebindToFloat<decltype(di)> df;
@@ -41,6 +42,17 @@ struct DivideBytesUp {
     return division::quotient<Kel8u>(b, a, scaleFactor);
   }
 };
+
+// The bytes of two vectors as the lower and upper ones of lanes of 16 bits.
+template <class D, class V>
+HWY_INLINE Wide<D> pairUp(D d, V lower, V upper) {
+  if constexpr (kTwoHalves<D>) {
+    return joined(zip(d, lower, upper));
+  } else {
+    const Wide<D> l = widen(d, lower), u = widen(d, upper);
+    return {hn::Or(l.lo, hn::ShiftLeft<8>(u.lo)), l.hi};
+  }
+}
 
 // Scale factors of 0 and more, by a product with a reciprocal in fixed point. With d = value *
 // 2^scaleFactor, at most 512, and f the smallest for which 2^f is at least 2d, y = floor(src * m /
@@ -86,7 +98,7 @@ struct DivideBytesDown {
 
   template <class D>
   static HWY_INLINE Wide<D> join(D d, const Kel8u (&halves)[2][kSize], std::size_t phase) {
-    return joined(zip(d, hn::LoadU(d, halves[0] + phase), hn::LoadU(d, halves[1] + phase)));
+    return pairUp(d, hn::LoadU(d, halves[0] + phase), hn::LoadU(d, halves[1] + phase));
   }
 
   template <class D>
@@ -96,8 +108,7 @@ struct DivideBytesDown {
   template <class D, class V>
   HWY_INLINE V vector(D d, const Vectors<D>& k, V v) const {
     // The dividend in the upper byte: the high product takes off 16 bits, of which 8 are its own.
-    const Zipped<D> raised = zip(d, hn::Zero(d), v);
-    const Wide<D> n = joined(raised);
+    const Wide<D> n = pairUp(d, hn::Zero(d), v);
     const WideTag<D> dw;
     Wide<D> result;
     result.lo = rounded(dw, hn::MulHigh(n.lo, k.m.lo), k.shift.lo, k.bias.lo);

@@ -111,7 +111,7 @@ TEST(Division, ByConstantsIsItsDefinition) {
   checkDivC<Kel16s>(Type::k16s, 17);
   const int members = forMembers("DivC", Type::k32f, [&](const Function& f) {
     const bool one = f.arguments[f.inPlace ? 0 : 2].length == 0;
-    for (const float c : {3.0f, 0.1f, 1.0f, -1.0f, 1e-40f, 1e39f, kInfinity, -kInfinity, NAN}) {
+    for (const float c : {3.0f, 0.1f, 1.0f, -1.0f, 1e-40f, 3e38f, kInfinity, -kInfinity, NAN}) {
       const auto prepare = [&](TestCall& call) {
         registry::Value& value = call.values[call.find(registry::Role::kConstant)];
         value.f = c;
@@ -140,7 +140,8 @@ TEST(Division, EveryPairOfBytes) {
     a[i] = static_cast<Kel8u>(i);
     b[i] = static_cast<Kel8u>(i >> 8);
   }
-  std::vector<int> factors = {kIntMin, -200, -126, -64, 24, 25, 32, 40, 41, 42, 43, 64, 200, kIntMax};
+  std::vector<int> factors = {kIntMin, -200, -126, -64, 24, 25,  32,
+                              40,      41,   42,   43,  64, 200, kIntMax};
   for (int sf = -20; sf <= 20; ++sf) factors.push_back(sf);
   for (const int sf : factors) {
     for (std::size_t i = 0; i < a.size(); ++i) expected[i] = divided(a[i], b[i], sf);
@@ -204,9 +205,9 @@ TEST(Division, ShortsNextToTies) {
     for (std::size_t i = 0; i < kCount; ++i) b[i] = nextToTie(c, sf);
     for (const std::int64_t target : testedTargets()) {
       const UseTarget use(target);
-      ASSERT_EQ(keliDivC_16s_C1RSfs(b.data(), 2 * kCount, c, dst.data(), 2 * kCount, {kCount, 1},
-                                    sf),
-                kelStatusOk);
+      ASSERT_EQ(
+          keliDivC_16s_C1RSfs(b.data(), 2 * kCount, c, dst.data(), 2 * kCount, {kCount, 1}, sf),
+          kelStatusOk);
       for (std::size_t i = 0; i < kCount; ++i) {
         ASSERT_EQ(dst[i], quotient(c, b[i], sf))
             << targetName(target) << " " << b[i] << " / " << c << " scale factor " << sf;
