@@ -23,8 +23,7 @@ template <bool kByRemainder>
 struct DivideShorts {
   static constexpr std::size_t kPeriod = 1;
   static constexpr std::size_t kUnroll = 2;
-  static constexpr float kBeyond = 40000;   // saturates, with or without 1 more
-  static constexpr float kZero = 0x1p-90f;  // in place of 0: all quotients but 0 / 0 saturate
+  static constexpr float kBeyond = 40000;  // saturates, with or without 1 more
 
   int scaleFactor;
   float factor;
@@ -43,13 +42,15 @@ struct DivideShorts {
       const hn::DFromV<decltype(divisor)> di;
       const hn::RebindToFloat<decltype(di)> df;
       const auto given = hn::ConvertTo(df, divisor);
-      const auto k = hn::IfThenElse(hn::Eq(given, hn::Zero(df)), hn::Set(df, kZero), given);
+      // In place of 0: the quotient is dividend * 2^15.
+      const auto k =
+          hn::IfThenElse(hn::Eq(given, hn::Zero(df)), hn::Set(df, factor * 0x1p-15f), given);
       const auto x = hn::ConvertTo(df, dividend) * hn::Set(df, factor) / k;
-      const auto q = roundToInt(di, hn::Clamp(x, hn::Set(df, -kBeyond), hn::Set(df, kBeyond)));
       if constexpr (kByRemainder) {
+        const auto q = roundToInt(di, hn::Clamp(x, hn::Set(df, -kBeyond), hn::Set(df, kBeyond)));
         return corrected(di, q, hn::ShiftLeftSame(dividend, -scaleFactor), divisor);
       } else {
-        return q;
+        return roundToInt(di, x);
       }
     });
   }
@@ -70,21 +71,78 @@ struct DivideShorts {
   }
 };
 
-template <class Run>
-HWY_INLINE auto forScaleFactor(int sf, const Run& run) {
-  return sf < -7 ? run(DivideShorts<true>(sf)) : run(DivideShorts<false>(sf));
-}
+// By constants, scale factors of 0 and more: with d = |value| * 2^scaleFactor and 2^t, of at least
+// 2d and below 4d, the product src * (2^t / d) is below 2^17 and has an error of at most 2^-6, both
+// roundings together. Where the quotient is a tie, its multiple by 2^t is an integer, to which the
+// product rounds. Other quotients lie at least 2^t / (2d), so 1, from that integer, and the rounded
+// product lies on the same side. So it rounds, by 2^t, to what the quotient rounds to.
+template <std::size_t kCycle>
+struct DivideByShorts {
+  static constexpr std::size_t kPeriod = kCycle;
+  static constexpr std::size_t kUnroll = kCycle == 3 ? 3 : 2;
+
+  Kel16s divisors[kCycle];
+  int scaleFactor;
+  WideCycle<std::uint16_t, kCycle> reciprocal, unit;  // 2^t / d with the sign of value, 2^-t
+
+  DivideByShorts(const void* constants, int sf) : scaleFactor(std::min(sf, 17)) {
+    for (std::size_t k = 0; k < kCycle; ++k) {
+      divisors[k] = load(static_cast<const Kel16s*>(constants) + k);
+      const float d = static_cast<float>(divisors[k]) / division::powerOfTwo(scaleFactor);
+      float power = 2;
+      while (power < 2 * std::abs(d)) power *= 2;
+      reciprocal.set(k, bits(power / d));
+      unit.set(k, bits(1 / power));
+    }
+  }
+
+  static std::uint32_t bits(float v) {
+    std::uint32_t result;
+    std::memcpy(&result, &v, sizeof(v));
+    return result;
+  }
+
+  template <class D>
+  struct Vectors {
+    Wide<hn::RebindToUnsigned<D>> reciprocal, unit;
+  };
+
+  template <class D>
+  HWY_INLINE Vectors<D> at(D d, std::size_t phase) const {
+    return {reciprocal.at(d, phase), unit.at(d, phase)};
+  }
+  template <class D, class V>
+  HWY_INLINE V vector(D d, const Vectors<D>& k, V v) const {
+    const Wide<D> n = widen(d, v);
+    Wide<D> result;
+    result.lo = rounded(n.lo, k.reciprocal.lo, k.unit.lo);
+    if constexpr (kTwoHalves<D>) result.hi = rounded(n.hi, k.reciprocal.hi, k.unit.hi);
+    return narrow(d, result);
+  }
+  template <class V, class VU>
+  static HWY_INLINE V rounded(V n, VU reciprocal, VU unit) {
+    const hn::DFromV<V> di;
+    const hn::RebindToFloat<decltype(di)> df;
+    const auto multiple = hn::Round(hn::ConvertTo(df, n) * hn::BitCast(df, reciprocal));
+    return roundToInt(di, multiple * hn::BitCast(df, unit));
+  }
+  HWY_INLINE Kel16s scalar(std::size_t phase, Kel16s v) const {
+    return division::quotient<Kel16s>(v, divisors[phase], scaleFactor);
+  }
+};
 
 bool ownDiv16s(const Band<2>& b, int sf) {
-  return forScaleFactor(
-      sf, [&](const auto& op) KELI_LAMBDA { return divideImages<Kel16s, KeepNone>(b, op); });
+  if (sf < -7) return divideImages<Kel16s>(b, DivideShorts<true>(sf));
+  return divideImages<Kel16s>(b, DivideShorts<false>(sf));
 }
 
 template <std::size_t kCycle>
 void ownDivC16s(const Band<1>& b, const void* constants, int sf) {
-  forScaleFactor(sf, [&](const auto& op) KELI_LAMBDA {
-    mapImageAndConstant<Kel16s, kCycle, KeepNone>(b, constants, op);
-  });
+  if (sf < 0) {
+    mapImageAndConstant<Kel16s, kCycle, KeepNone>(b, constants, DivideShorts<true>(sf));
+  } else {
+    mapRows<Kel16s, Kel16s>(b, DivideByShorts<kCycle>(constants, sf));
+  }
 }
 
 constexpr division::TwoImages kDiv16s = {ownDiv16s, nullptr};

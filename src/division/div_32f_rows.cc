@@ -13,27 +13,37 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
+// Zero divisors are rare, and a branch costs less than their results in every vector.
+template <class Keep>
 struct DivideFloats {
-  static constexpr std::size_t kPeriod = 1;
+  static constexpr std::size_t kPeriod = Keep::kPeriod;
   static constexpr std::size_t kUnroll = 4;
   static constexpr std::uint32_t kNaN = 0xFFC00000;
 
+  bool* zeroDivisor;
+
   template <class D>
-  HWY_INLINE Nothing at(D, std::size_t) const {
-    return {};
+  HWY_INLINE auto at(D d, std::size_t phase) const {
+    return Keep().at(d, phase);
+  }
+  template <class D, class K, class V>
+  HWY_INLINE V vector(D d, [[maybe_unused]] const K& used, V a, V b) const {
+    auto byZero = hn::Eq(a, hn::Zero(d));
+    if constexpr (kPeriod != 1) byZero = hn::And(byZero, used);
+    const V quotient = b / a;
+    if (HWY_LIKELY(hn::AllFalse(d, byZero))) return quotient;
+    *zeroDivisor = true;
+    return hn::IfThenElse(byZero, overZero(d, b), quotient);
   }
   template <class D, class V>
-  HWY_INLINE V vector(D d, Nothing, V a, V b) const {
-    const hn::RebindToUnsigned<D> du;
-    const V zero = hn::Zero(d);
-    const auto byZero = hn::Eq(a, zero);
-    // A quotient by +0 has the dividend's sign.
-    const V quotient = b / hn::IfThenElse(byZero, zero, a);
-    const auto signless = hn::Not(hn::Gt(hn::Abs(b), zero));
-    return hn::IfThenElse(hn::And(byZero, signless), hn::BitCast(d, hn::Set(du, kNaN)), quotient);
+  static HWY_INLINE V overZero(D d, V b) {
+    const V infinity = hn::CopySign(hn::Inf(d), b);
+    const V nan = hn::BitCast(d, hn::Set(hn::RebindToUnsigned<D>(), kNaN));
+    return hn::IfThenElse(hn::Gt(hn::Abs(b), hn::Zero(d)), infinity, nan);
   }
   HWY_INLINE float scalar(std::size_t, float a, float b) const {
     if (a != 0) return b / a;
+    *zeroDivisor = true;
     constexpr float kInfinity = std::numeric_limits<float>::infinity();
     if (b > 0) return kInfinity;
     if (b < 0) return -kInfinity;
@@ -45,7 +55,9 @@ struct DivideFloats {
 
 template <class Keep>
 bool ownDiv32f(const Band<2>& b, int) {
-  return divideImages<Kel32f, Keep>(b, DivideFloats());
+  bool zeroDivisor = false;
+  mapTwoImages<Kel32f, Keep>(b, DivideFloats<Keep>{&zeroDivisor});
+  return zeroDivisor;
 }
 
 constexpr division::TwoImages kDiv32f = {ownDiv32f<KeepNone>, ownDiv32f<KeepOthers<4, 3>>};

@@ -52,8 +52,88 @@ struct DivideBytes {
   }
 };
 
+// Without a scale factor, where bytes are looked up across a vector. With y = floor(257 * src2 * M
+// / 2^16), M[k] about 2^25 / (257 k), the quotient is y / 512. Quotients that are not ties are 1 /
+// (2k) from one or more, which y tells apart. Ties come to 255 modulo 512 for the k whose
+// reciprocal has no error, and else to the side of its error: kMultipliers. y / 512 rounds with
+// ties at 255.
+struct LookUpReciprocals {
+  static constexpr std::size_t kPeriod = 1;
+  static constexpr std::size_t kUnroll = 1;
+
+  template <class D>
+  struct Tables {
+    hn::Vec<D> low[4], high[4];  // the bytes of M
+  };
+
+  template <class D>
+  HWY_INLINE Tables<D> at(D d, std::size_t) const {
+    Tables<D> t;
+    unrolled<4>([&](auto i) KELI_LAMBDA {
+      t.low[i] = hn::LoadU(d, division::kMultipliers.low + 64 * i);
+      t.high[i] = hn::LoadU(d, division::kMultipliers.high + 64 * i);
+    });
+    return t;
+  }
+  template <class D, class V>
+  HWY_INLINE V vector(D d, const Tables<D>& t, V a, V b) const {
+    const hn::Repartition<std::uint16_t, D> dw;
+    const auto upper = hn::Set(dw, 0xFF00);
+    const auto low = hn::BitCast(dw, lookUp(d, t.low, a));
+    const auto high = hn::BitCast(dw, lookUp(d, t.high, a));
+    const auto wide = hn::BitCast(dw, b);
+    // The bytes at even places, then those at odd ones.
+    const auto even = rounded(dw, hn::Or(hn::AndNot(upper, low), hn::ShiftLeft<8>(high)),
+                              hn::Or(hn::AndNot(upper, wide), hn::ShiftLeft<8>(wide)));
+    const auto odd = rounded(dw, hn::Or(hn::ShiftRight<8>(low), hn::And(upper, high)),
+                             hn::Or(hn::ShiftRight<8>(wide), hn::And(upper, wide)));
+    const V q = hn::BitCast(d, hn::Or(hn::ShiftRight<8>(even), hn::And(upper, odd)));
+    // M[0] is 0, and 2^16 is too small for M[1].
+    const V zero = hn::Zero(d);
+    const auto positive = hn::And(hn::Eq(a, zero), hn::Ne(b, zero));
+    return hn::IfThenElse(positive, hn::Set(d, 255),
+                          hn::IfThenElse(hn::Eq(a, hn::Set(d, 1)), b, q));
+  }
+
+  // 256 times the rounded y / 512, and a rest: the average is (y + 256 + odd) / 2 without overflow.
+  template <class DW, class V>
+  static HWY_INLINE V rounded(DW dw, V m, V dividend) {
+    const V y = hn::MulHigh(dividend, m);
+    const V odd = hn::And(hn::ShiftRight<9>(y), hn::Set(dw, 1));
+    return hn::AverageRound(y, odd + hn::Set(dw, 255));
+  }
+
+  template <class D, class V>
+  static HWY_INLINE V lookUp(D d, const V (&table)[4], V k) {
+    const auto second = hn::MaskFromVec(k), odd = hn::MaskFromVec(k + k);  // by the upper bits
+    const V first = hn::IfThenElse(odd, permuteBytes(d, table[1], k), permuteBytes(d, table[0], k));
+    const V other = hn::IfThenElse(odd, permuteBytes(d, table[3], k), permuteBytes(d, table[2], k));
+    return hn::IfThenElse(second, other, first);
+  }
+
+  HWY_INLINE Kel8u scalar(std::size_t, Kel8u a, Kel8u b) const {
+    return DivideBytes(0).scalar(0, a, b);
+  }
+};
+
+template <class D>
+bool lookUpRows(D d, const Band<2>& b) {
+  using Op = NotingZeros<LookUpReciprocals>;
+  bool zero = false;
+  for (std::size_t y = 0; y < b.rows; ++y) {
+    map::Row<Op, KeepNone, Kel8u, Kel8u, Kel8u>::vectors<false>(
+        d, Op{LookUpReciprocals(), &zero}, 0, b.n, b.dstRow<Kel8u>(y), b.srcRow<Kel8u>(0, y),
+        b.srcRow<Kel8u>(1, y));
+  }
+  return zero;
+}
+
 bool ownDiv8u(const Band<2>& b, int scaleFactor) {
-  return divideImages<Kel8u, KeepNone>(b, DivideBytes(scaleFactor));
+  if constexpr (kPermutesBytes) {
+    const hn::ScalableTag<Kel8u> d;
+    if (scaleFactor == 0 && b.n >= hn::MaxLanes(decltype(d)())) return lookUpRows(d, b);
+  }
+  return divideImages<Kel8u>(b, DivideBytes(scaleFactor));
 }
 
 constexpr division::TwoImages kDiv8u = {ownDiv8u, nullptr};

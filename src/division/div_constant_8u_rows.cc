@@ -43,17 +43,6 @@ struct DivideBytesUp {
   }
 };
 
-// The bytes of two vectors as the lower and upper ones of lanes of 16 bits.
-template <class D, class V>
-HWY_INLINE Wide<D> pairUp(D d, V lower, V upper) {
-  if constexpr (kTwoHalves<D>) {
-    return joined(zip(d, lower, upper));
-  } else {
-    const Wide<D> l = widen(d, lower), u = widen(d, upper);
-    return {hn::Or(l.lo, hn::ShiftLeft<8>(u.lo)), l.hi};
-  }
-}
-
 // Scale factors of 0 and more, by a product with a reciprocal in fixed point. With d = value *
 // 2^scaleFactor, at most 512, and f the smallest for which 2^f is at least 2d, y = floor(src * m /
 // 256), m = ceil(2^(f+8) / d), is floor(src * 2^f / d + e) with e below 1. A tie, whose src * 2^f /
@@ -64,31 +53,21 @@ template <std::size_t kCycle>
 struct DivideBytesDown {
   static constexpr std::size_t kPeriod = kCycle;
   static constexpr std::size_t kUnroll = kCycle == 3 ? 3 : 2;
-  static constexpr std::size_t kLanes = kScalarTarget ? 1 : std::min(HWY_MAX_BYTES, 32);
-  static constexpr std::size_t kSize = kLanes + kCycle;
 
   Kel8u divisors[kCycle];
   int scaleFactor;
-  // The halves of m and of 2^(16-f), and 2^(f-1) - 1, of a vector that begins at any phase.
-  Kel8u m[2][kSize], shift[2][kSize], bias[2][kSize];
+  WideCycle<Kel8u, kCycle> m, shift, bias;  // m, 2^(16-f), 2^(f-1) - 1
 
   DivideBytesDown(const void* constants, int sf) : scaleFactor(sf) {
     for (std::size_t k = 0; k < kCycle; ++k) {
       divisors[k] = load(static_cast<const Kel8u*>(constants) + k);
-      const int d = std::min(divisors[k] << std::min(sf, 9), 512);
+      const std::uint32_t d = std::min(std::uint32_t{divisors[k]} << std::min(sf, 9), 512u);
       int f = 1;
-      while ((1 << f) < 2 * d) ++f;
-      for (std::size_t i = k; i < kSize; i += kCycle) {
-        put(m, i, ((256 << f) + d - 1) / d);
-        put(shift, i, 1 << (16 - f));
-        put(bias, i, (1 << (f - 1)) - 1);
-      }
+      while ((1u << f) < 2 * d) ++f;
+      m.set(k, ((256u << f) + d - 1) / d);
+      shift.set(k, 1u << (16 - f));
+      bias.set(k, (1u << (f - 1)) - 1);
     }
-  }
-
-  static void put(Kel8u (&halves)[2][kSize], std::size_t i, int value) {
-    halves[0][i] = static_cast<Kel8u>(value & 255);
-    halves[1][i] = static_cast<Kel8u>(value >> 8);
   }
 
   template <class D>
@@ -97,13 +76,8 @@ struct DivideBytesDown {
   };
 
   template <class D>
-  static HWY_INLINE Wide<D> join(D d, const Kel8u (&halves)[2][kSize], std::size_t phase) {
-    return pairUp(d, hn::LoadU(d, halves[0] + phase), hn::LoadU(d, halves[1] + phase));
-  }
-
-  template <class D>
   HWY_INLINE Vectors<D> at(D d, std::size_t phase) const {
-    return {join(d, m, phase), join(d, shift, phase), join(d, bias, phase)};
+    return {m.at(d, phase), shift.at(d, phase), bias.at(d, phase)};
   }
   template <class D, class V>
   HWY_INLINE V vector(D d, const Vectors<D>& k, V v) const {

@@ -33,47 +33,72 @@ HWY_INLINE hn::Vec<D> mapAsInts(D d, hn::Vec<D> a, hn::Vec<D> b, const F& f) {
   return narrow(d, result);
 }
 
-// An operation whose first operand is a divisor, which notes whether one of those that are used (of
-// the samples that Keep writes) was 0.
-template <class Op, class Keep>
+// An operation whose first operand is a divisor, which notes whether one was 0.
+template <class Op>
 struct NotingZeros {
-  static constexpr std::size_t kPeriod = Keep::kPeriod;
+  static constexpr std::size_t kPeriod = Op::kPeriod;
   static constexpr std::size_t kUnroll = Op::kUnroll;
-  static_assert(Op::kPeriod == 1);
 
   Op op;
   bool* zero;
 
   template <class D>
-  struct Vectors {
-    decltype(std::declval<Op>().at(D(), 0)) op;
-    decltype(std::declval<Keep>().at(D(), 0)) used;
-  };
-
-  template <class D>
-  HWY_INLINE Vectors<D> at(D d, std::size_t phase) const {
-    return {op.at(d, 0), Keep().at(d, phase)};
+  HWY_INLINE auto at(D d, std::size_t phase) const {
+    return op.at(d, phase);
   }
-  template <class D, class V>
-  HWY_INLINE V vector(D d, const Vectors<D>& k, V a, V b) const {
-    auto zeros = hn::Eq(a, hn::Zero(d));
-    if constexpr (Keep::kPeriod != 1) zeros = hn::And(zeros, k.used);
-    *zero |= !hn::AllFalse(d, zeros);
-    return op.vector(d, k.op, a, b);
+  template <class D, class K, class V>
+  HWY_INLINE V vector(D d, const K& k, V a, V b) const {
+    *zero |= !hn::AllFalse(d, hn::Eq(a, hn::Zero(d)));
+    return op.vector(d, k, a, b);
   }
   template <class T>
-  HWY_INLINE T scalar(std::size_t, T a, T b) const {
+  HWY_INLINE T scalar(std::size_t phase, T a, T b) const {
     *zero |= a == 0;
-    return op.scalar(0, a, b);
+    return op.scalar(phase, a, b);
   }
 };
 
-template <class T, class Keep, class Op>
+template <class T, class Op>
 HWY_INLINE bool divideImages(const Band<2>& b, const Op& op) {
   bool zero = false;
-  mapTwoImages<T, Keep>(b, NotingZeros<Op, Keep>{op, &zero});
+  mapTwoImages<T, KeepNone>(b, NotingZeros<Op>{op, &zero});
   return zero;
 }
+
+// The lanes of two vectors as the lower and upper halves of lanes twice as wide.
+template <class D, class V>
+HWY_INLINE Wide<D> pairUp(D d, V lower, V upper) {
+  if constexpr (kTwoHalves<D>) {
+    return joined(zip(d, lower, upper));
+  } else {
+    constexpr int kBits = 8 * sizeof(hn::TFromD<D>);
+    const WideTag<D> dw;
+    return {hn::Or(hn::PromoteTo(dw, lower), hn::ShiftLeft<kBits>(hn::PromoteTo(dw, upper))),
+            hn::Zero(dw)};
+  }
+}
+
+// A cycle of constants twice as wide as the samples, T unsigned, in halves.
+template <class T, std::size_t kCycle>
+struct WideCycle {
+  static constexpr std::size_t kLanes = kScalarTarget ? 1 : std::min(HWY_MAX_BYTES, 32) / sizeof(T);
+  static constexpr std::size_t kSize = kLanes + kCycle;  // a vector can begin at any of them
+
+  T lower[kSize];
+  T upper[kSize];
+
+  HWY_INLINE void set(std::size_t k, std::uint32_t value) {
+    for (std::size_t i = k; i < kSize; i += kCycle) {
+      lower[i] = static_cast<T>(value);
+      upper[i] = static_cast<T>(value >> (8 * sizeof(T)));
+    }
+  }
+  template <class D>
+  HWY_INLINE Wide<hn::RebindToUnsigned<D>> at(D, std::size_t phase) const {
+    const hn::RebindToUnsigned<D> du;
+    return pairUp(du, hn::LoadU(du, lower + phase), hn::LoadU(du, upper + phase));
+  }
+};
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();

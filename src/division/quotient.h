@@ -57,4 +57,27 @@ constexpr std::array<float, 256> makeReciprocals() {
 
 inline constexpr std::array<float, 256> kReciprocals = makeReciprocals();
 
+// Factors M of 16 bits for k = 2 and more, in bytes: 2^25 / (257 k) rounded down, or for those even
+// k whose reciprocal to six decimals is not 1 / k moved to the side of the reciprocal's error, far
+// enough for ties to follow it. Odd k have no ties.
+struct Multipliers {
+  std::uint8_t low[256];
+  std::uint8_t high[256];
+};
+
+constexpr Multipliers makeMultipliers() {
+  Multipliers m{};
+  for (int k = 2; k < 256; ++k) {
+    const int floor = (1 << 25) / (257 * k);
+    const int millionths = (2000000 + k) / (2 * k);
+    const int error = k % 2 == 0 ? millionths * k - 1000000 : 0;
+    const int multiplier = floor + (error > 0 ? 1 : error < 0 ? -(floor / 512 + 1) : 0);
+    m.low[k] = static_cast<std::uint8_t>(multiplier & 255);
+    m.high[k] = static_cast<std::uint8_t>(multiplier >> 8);
+  }
+  return m;
+}
+
+inline constexpr Multipliers kMultipliers = makeMultipliers();
+
 }  // namespace keli::division
