@@ -743,12 +743,12 @@ KELI_API KelStatus keliMulCScale_16u_AC4IR(const Kel16u value[3], Kel16u* pSrcDs
  *
  * R[k] is 1/k rounded to six decimal places (ties away from zero) and then to single precision;
  * R[0] is 4290772992. The products are formed from left to right, each rounded to single
- * precision, and these results are exact: where src2 / src1 is close to a half, the
- * reciprocal's rounding decides (3 / 6 gives 1, as R[6] = 0.166667). Any scale factor is valid;
- * it is not rounded but saturated where the result no longer depends on it. A divisor of 0
- * gives R[0] * src2 * 2^-scaleFactor in the same way, 255 for a dividend other than 0 and a
- * scale factor of 24 or less, and the warning kelStatusDivByZeroWarning; every pixel is
- * written. In place the result replaces the second source: srcDst / src.
+ * precision: where src2 / src1 is half an integer, the error of the reciprocal may decide (3 /
+ * 6 gives 1, as R[6] = 0.166667). Any scale factor is valid: above 40 every result is 0, below
+ * -15 every result but 0 is 255. A divisor of 0 is not treated apart: with R[0] it gives 0 for
+ * a dividend of 0 and for others 255, where the scale factor is 24 or less; and the warning
+ * kelStatusDivByZeroWarning. Every pixel is written. In place the result replaces the second
+ * source: srcDst / src.
  *
  * Checks, in order: kelStatusBadSize if the width is below 1 (C3 and C4); kelStatusNullPointer
  * if a pointer is null; kelStatusBadSize if roiSize is below 1 in width or height;
