@@ -71,12 +71,12 @@ Block Image::block() const {
 
 // Integer samples take any value; floating ones lie in 0..256, so that no operation meets a NaN, an
 // infinity or a denormal number by accident.
-void Image::fillPattern(std::uint64_t seed) const {
+void Image::fillPattern(std::uint64_t seed, bool odd) const {
   std::uint64_t state = seed * 0x9E3779B97F4A7C15 + 1;
   const std::size_t bytes = static_cast<std::size_t>(step_) * size_.height * planes();
   if (!isFloating(type_)) {
     for (std::size_t i = 0; i < bytes; i += 8) {
-      const std::uint64_t word = nextRandom(&state);
+      const std::uint64_t word = nextRandom(&state) | (odd ? 0x0101010101010101 : 0);
       std::memcpy(data() + i, &word, 8);
     }
     return;
@@ -156,7 +156,7 @@ void Frame::addImage(const Argument& argument) {
     if (destination_ != nullptr) throw std::runtime_error("more than one written image");
     destination_ = std::move(image);
   } else {
-    image->fillPattern(1 + sources_.size());
+    image->fillPattern(1 + sources_.size(), choices_.odd);
     sources_.push_back(std::move(image));
   }
 }

@@ -752,6 +752,118 @@ KELI_API KelStatus keliMulCScale_16u_C3IR(const Kel16u value[3], Kel16u* pSrcDst
 KELI_API KelStatus keliMulCScale_16u_C4IR(const Kel16u value[4], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
 KELI_API KelStatus keliMulCScale_16u_AC4IR(const Kel16u value[3], Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize);
 
+/* ==== Division ==== */
+
+/**
+ * Divides the second image by the first.
+ *
+ *     dst = min(255, R[src1] * src2 * 2^-scaleFactor), rounded to nearest, ties to even
+ *
+ * R[k] is 1/k rounded to six decimal places (ties away from zero) and then to single precision;
+ * R[0] is 4290772992. The products are formed from left to right, each rounded to single
+ * precision: where src2 / src1 is half an integer, the error of the reciprocal may decide (3 /
+ * 6 gives 1, as R[6] = 0.166667). Any scale factor is valid: above 40 every result is 0, below
+ * -15 every result but 0 is 255. A divisor of 0 is not treated apart: with R[0] it gives 0 for
+ * a dividend of 0 and for others 255, where the scale factor is 24 or less; and the warning
+ * kelStatusDivByZeroWarning. Every pixel is written. In place the result replaces the second
+ * source: srcDst / src.
+ *
+ * Checks, in order: kelStatusBadSize if the width is below 1 (C3 and C4); kelStatusNullPointer
+ * if a pointer is null; kelStatusBadSize if roiSize is below 1 in width or height;
+ * kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliDiv_8u_C1RSfs(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_8u_C3RSfs(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_8u_C1IRSfs(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_8u_C3IRSfs(const Kel8u* pSrc, int srcStep, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Divides the second image by the first.
+ *
+ *     dst = src2 / src1 * 2^-scaleFactor
+ *
+ * The exact quotient is scaled, rounded to the nearest integer with ties to even, and
+ * saturated. Any scale factor is valid. A divisor of 0 gives 32767, -32768 or 0 for a dividend
+ * above, below or equal to 0, whatever the scale factor, and the warning
+ * kelStatusDivByZeroWarning; every pixel is written. In place the result replaces the second
+ * source: srcDst / src.
+ *
+ * Checks, in order: kelStatusBadSize if the width is below 1 (C3 and C4); kelStatusNullPointer
+ * if a pointer is null; kelStatusBadSize if roiSize is below 1 in width or height;
+ * kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliDiv_16s_C1RSfs(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_16s_C3RSfs(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_16s_C1IRSfs(const Kel16s* pSrc, int srcStep, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_16s_C3IRSfs(const Kel16s* pSrc, int srcStep, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Divides the second floating-point image by the first.
+ *
+ *     dst = src2 / src1
+ *
+ * One rounding to single precision, as IEEE 754 defines the operation. A divisor of 0, of
+ * either sign, gives +infinity for a dividend above 0, -infinity for one below 0, and the quiet
+ * NaN of the bits 0xFFC00000 for one that is 0 or a NaN, and the warning
+ * kelStatusDivByZeroWarning; every pixel is written. In place the result replaces the second
+ * source: srcDst / src. AC4 leaves the fourth sample of every pixel as it was; a 0 there gives
+ * no warning.
+ *
+ * Checks, in order: kelStatusBadSize if the width is below 1 (C3 and C4); kelStatusNullPointer
+ * if a pointer is null; kelStatusBadSize if roiSize is below 1 in width or height;
+ * kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliDiv_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDiv_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDiv_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDiv_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDiv_32f_C1IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDiv_32f_C3IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDiv_32f_C4IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDiv_32f_AC4IR(const Kel32f* pSrc, int srcStep, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Divides an image by a constant.
+ *
+ *     dst = src / value * 2^-scaleFactor
+ *
+ * The constant is one value for C1, and an array of one value for each channel for C3. The
+ * exact quotient is scaled, rounded to the nearest integer with ties to even, and saturated.
+ * Any scale factor is valid.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusDivisorZero if
+ * the constant, or one of its channels, is 0.
+ */
+KELI_API KelStatus keliDivC_8u_C1RSfs(const Kel8u* pSrc, int srcStep, Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_8u_C3RSfs(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_8u_C1IRSfs(Kel8u value, Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_8u_C3IRSfs(const Kel8u value[3], Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_16s_C1RSfs(const Kel16s* pSrc, int srcStep, Kel16s value, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_16s_C3RSfs(const Kel16s* pSrc, int srcStep, const Kel16s value[3], Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_16s_C1IRSfs(Kel16s value, Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_16s_C3IRSfs(const Kel16s value[3], Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Divides a floating-point image by a constant.
+ *
+ *     dst = src * (1 / value)
+ *
+ * The constant is one value for C1, and an array of one value for each channel for C3. Its
+ * reciprocal is rounded to single precision, and so is its product with each sample: two
+ * roundings, not those of a true division. C1 with a reciprocal of 1 copies the source, bit for
+ * bit, and with a reciprocal of 0 (an infinite constant) gives 0 for every sample, an infinity
+ * or NaN included; C3 always multiplies. A constant of 0 of either sign is an error.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusDivisorZero if
+ * the constant, or one of its channels, is 0.
+ */
+KELI_API KelStatus keliDivC_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f value, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDivC_32f_C3R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDivC_32f_C1IR(Kel32f value, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDivC_32f_C3IR(const Kel32f value[3], Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
 /* ==== Bitwise operations and shifts ==== */
 
 /**

@@ -145,6 +145,22 @@ HWY_INLINE hn::Vec<D> shiftRightBy(D d, hn::Vec<D> v, int count) {
 #endif
 }
 
+// Each lane of floats rounded to the nearest integer, ties to even, whatever the rounding mode of
+// the caller; all are below 2^31 in size, so that no lane needs the library's care for overflow.
+template <class DI, class V>
+HWY_INLINE hn::Vec<DI> roundToInt([[maybe_unused]] DI di, V v) {
+  const V rounded = hn::Round(v);
+#if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
+  if constexpr (hn::MaxLanes(DI()) == 8) {
+    return hn::Vec<DI>{_mm256_cvttps_epi32(rounded.raw)};
+  } else {
+    return hn::Vec<DI>{_mm_cvttps_epi32(rounded.raw)};
+  }
+#else
+  return hn::ConvertTo(di, rounded);
+#endif
+}
+
 // All bits of the samples whose position in a cycle of kPeriod is below kUsed, long enough to load
 // a vector from any phase.
 template <class T, std::size_t kPeriod, std::size_t kUsed>
