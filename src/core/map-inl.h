@@ -2,7 +2,7 @@
 //
 // An operation (Op) has
 //   kPeriod                 length of the cycle of its constants: 1, or the number of channels
-//   kUnroll                 vectors in flight, a multiple of the cycle where that is 3
+//   kUnroll                 vectors in flight, a multiple of those that the cycle makes different
 //   at(d, phase)            what a vector that starts at that phase of the cycle needs,
 //   loop-invariant vector(d, at, a...)     the vector form; d is the tag of the destination's
 //   samples scalar(phase, a...)     the definition; it alone runs on the scalar target
@@ -20,6 +20,7 @@
 #endif
 
 #include <algorithm>
+#include <numeric>
 
 #include <hwy/cache_control.h>
 
@@ -70,7 +71,6 @@ template <class Op, class Keep, class TD, class... TS>
 struct Row {
   static constexpr std::size_t kPeriod = cycle(Op::kPeriod, Keep::kPeriod);
   static_assert(Op::kPeriod == 1 || Keep::kPeriod == 1 || Op::kPeriod == Keep::kPeriod);
-  static_assert(kPeriod != 3 || Op::kUnroll % 3 == 0);
   static constexpr std::size_t kWidest = std::max({sizeof(TD), sizeof(TS)...});
 
   template <class D>
@@ -107,7 +107,8 @@ struct Row {
     const Vector<D> atLast = at(d, op, (phase + end) % kPeriod);
     const hn::Vec<D> last = compute(d, op, atLast, (src + end)...);
     // Every kDistinct-th vector starts at the same phase.
-    constexpr std::size_t kDistinct = kN % kPeriod == 0 ? 1 : kPeriod;
+    constexpr std::size_t kDistinct = kPeriod / std::gcd(kN, kPeriod);
+    static_assert(kUnroll % kDistinct == 0);
     Vector<D> k[kDistinct];
     unrolled<kDistinct>([&](auto u) KELI_LAMBDA { k[u] = at(d, op, (phase + u * kN) % kPeriod); });
     std::size_t i = 0;
