@@ -1,6 +1,5 @@
 // Sums and differences of 32-bit parts, scaled. They have 33 bits: scaled down, they are formed as
-// half of the sum, rounded down, and the bit that the half has lost. Below the bit that decides a
-// tie that bit only tells that there is something, so it may take the half's last place.
+// half of the sum, rounded down, and the bit that the half has lost.
 #if defined(KELI_COMPLEX_SUM_32SC_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_COMPLEX_SUM_32SC_INL_H_
 #undef KELI_COMPLEX_SUM_32SC_INL_H_
@@ -96,7 +95,7 @@ struct Down32 {  // 2 and more
   template <class Operation, class D, class V>
   static HWY_INLINE V apply(Operation operation, D d, const RoundAny<D>& round, V a, V b) {
     const Halved<D> half = halved(operation, d, a, b);
-    return round(hn::Or(half.floor, hn::And(half.lost, hn::Set(d, 1))));
+    return round(half.floor, half.lost);
   }
 };
 

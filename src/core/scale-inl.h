@@ -115,9 +115,19 @@ struct RoundAny {
   }
 
   HWY_INLINE hn::Vec<D> operator()(hn::Vec<D> v) const {
-    const D d;
     const hn::Vec<D> quotient = shifted(v);
-    const hn::Vec<D> limit = half - hn::And(quotient, one);
+    return rounded(v, quotient, quotient);
+  }
+  // v and half of bit 0 of `more`: with it, a tie of v is past the half.
+  HWY_INLINE hn::Vec<D> operator()(hn::Vec<D> v, hn::Vec<D> more) const {
+    const hn::Vec<D> quotient = shifted(v);
+    return rounded(v, quotient, hn::Or(quotient, more));
+  }
+
+ private:
+  HWY_INLINE hn::Vec<D> rounded(hn::Vec<D> v, hn::Vec<D> quotient, hn::Vec<D> upAtHalf) const {
+    const D d;
+    const hn::Vec<D> limit = half - hn::And(upAtHalf, one);
     return quotient - hn::VecFromMask(d, hn::And(v, mask) > limit);
   }
 };

@@ -166,12 +166,13 @@ HWY_INLINE hn::Vec<D> packSaturated([[maybe_unused]] D d, [[maybe_unused]] VW lo
 
 // v >> count, for lanes of 32 bits, and of 64 that are unsigned.
 template <class D>
-HWY_INLINE hn::Vec<D> shiftRightBy(D d, hn::Vec<D> v, int count) {
+HWY_INLINE hn::Vec<D> shiftRightBy([[maybe_unused]] D d, hn::Vec<D> v, int count) {
 #if HWY_TARGET == HWY_SSE4
-  (void)d;
   return hn::ShiftRightSame(v, count);
 #else
-  // One count for each lane is one instruction, a common count is two.
+  // One count for each lane is one instruction, a common count is two. Of a single lane of 32 bits
+  // the library would take the count from 64, of which Set has filled both halves.
+  if constexpr (hn::MaxLanes(D()) == 1) return hn::ShiftRightSame(v, count);
   return v >> hn::Set(d, static_cast<hn::TFromD<D>>(count));
 #endif
 }

@@ -121,10 +121,9 @@ HWY_INLINE hn::Vec<D> narrow(D d, const Wide<D>& w) {
 
 // f(d, v...) on lanes of 32 bits as doubles, converted to the lanes of v again; integers saturate.
 template <class D, class F, class... V>
-HWY_INLINE hn::Vec<D> mapDoubles(D d, const F& f, V... v) {
+HWY_INLINE hn::Vec<D> mapDoubles(D d, [[maybe_unused]] const F& f, [[maybe_unused]] V... v) {
 #if HWY_TARGET == HWY_SCALAR
-  (void)f;
-  return (hn::Zero(d), ..., v);  // never run: the drivers call scalar definitions
+  return hn::Zero(d);  // never run: the drivers call scalar definitions
 #else
   constexpr std::size_t kVectorBytes = HWY_MAX_BYTES < 32 ? HWY_MAX_BYTES : 32;
   if constexpr (hn::MaxLanes(D()) * sizeof(double) > kVectorBytes) {
