@@ -864,6 +864,393 @@ KELI_API KelStatus keliDivC_32f_C3R(const Kel32f* pSrc, int srcStep, const Kel32
 KELI_API KelStatus keliDivC_32f_C1IR(Kel32f value, Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
 KELI_API KelStatus keliDivC_32f_C3IR(const Kel32f value[3], Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
 
+/* ==== Complex arithmetic ==== */
+
+/**
+ * Adds two complex images.
+ *
+ *     dst = (src1 + src2) * 2^-scaleFactor
+ *
+ * The sum, exact in each part, is scaled, rounded to the nearest integer with ties to even, and
+ * saturated, each part by itself. Any scale factor is valid: above 16 (16sc) or 32 (32sc) every
+ * result is 0, and the sources are not read. In place the result replaces the second source.
+ * AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliAdd_16sc_C1RSfs(const Kel16sc* pSrc1, int src1Step, const Kel16sc* pSrc2, int src2Step, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_16sc_C3RSfs(const Kel16sc* pSrc1, int src1Step, const Kel16sc* pSrc2, int src2Step, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_16sc_AC4RSfs(const Kel16sc* pSrc1, int src1Step, const Kel16sc* pSrc2, int src2Step, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_16sc_C1IRSfs(const Kel16sc* pSrc, int srcStep, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_16sc_C3IRSfs(const Kel16sc* pSrc, int srcStep, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_16sc_AC4IRSfs(const Kel16sc* pSrc, int srcStep, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_32sc_C1RSfs(const Kel32sc* pSrc1, int src1Step, const Kel32sc* pSrc2, int src2Step, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_32sc_C3RSfs(const Kel32sc* pSrc1, int src1Step, const Kel32sc* pSrc2, int src2Step, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_32sc_AC4RSfs(const Kel32sc* pSrc1, int src1Step, const Kel32sc* pSrc2, int src2Step, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_32sc_C1IRSfs(const Kel32sc* pSrc, int srcStep, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_32sc_C3IRSfs(const Kel32sc* pSrc, int srcStep, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAdd_32sc_AC4IRSfs(const Kel32sc* pSrc, int srcStep, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Adds two floating-point complex images.
+ *
+ *     dst = src1 + src2
+ *
+ * Each part is rounded once to single precision, as IEEE 754 defines the operation; no
+ * saturation. In place the result replaces the second source. AC4 leaves the fourth sample of
+ * every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliAdd_32fc_C1R(const Kel32fc* pSrc1, int src1Step, const Kel32fc* pSrc2, int src2Step, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAdd_32fc_C3R(const Kel32fc* pSrc1, int src1Step, const Kel32fc* pSrc2, int src2Step, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAdd_32fc_AC4R(const Kel32fc* pSrc1, int src1Step, const Kel32fc* pSrc2, int src2Step, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAdd_32fc_C1IR(const Kel32fc* pSrc, int srcStep, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAdd_32fc_C3IR(const Kel32fc* pSrc, int srcStep, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAdd_32fc_AC4IR(const Kel32fc* pSrc, int srcStep, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Subtracts the first complex image from the second.
+ *
+ *     dst = (src2 - src1) * 2^-scaleFactor
+ *
+ * The difference, the second operand minus the first, exact in each part, is scaled, rounded to
+ * the nearest integer with ties to even, and saturated, each part by itself. Any scale factor
+ * is valid: above 16 (16sc) or 32 (32sc) every result is 0, and the sources are not read. In
+ * place the result replaces the second source: srcDst - src. AC4 leaves the fourth sample of
+ * every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSub_16sc_C1RSfs(const Kel16sc* pSrc1, int src1Step, const Kel16sc* pSrc2, int src2Step, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_16sc_C3RSfs(const Kel16sc* pSrc1, int src1Step, const Kel16sc* pSrc2, int src2Step, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_16sc_AC4RSfs(const Kel16sc* pSrc1, int src1Step, const Kel16sc* pSrc2, int src2Step, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_16sc_C1IRSfs(const Kel16sc* pSrc, int srcStep, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_16sc_C3IRSfs(const Kel16sc* pSrc, int srcStep, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_16sc_AC4IRSfs(const Kel16sc* pSrc, int srcStep, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_32sc_C1RSfs(const Kel32sc* pSrc1, int src1Step, const Kel32sc* pSrc2, int src2Step, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_32sc_C3RSfs(const Kel32sc* pSrc1, int src1Step, const Kel32sc* pSrc2, int src2Step, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_32sc_AC4RSfs(const Kel32sc* pSrc1, int src1Step, const Kel32sc* pSrc2, int src2Step, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_32sc_C1IRSfs(const Kel32sc* pSrc, int srcStep, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_32sc_C3IRSfs(const Kel32sc* pSrc, int srcStep, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSub_32sc_AC4IRSfs(const Kel32sc* pSrc, int srcStep, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Subtracts the first floating-point complex image from the second.
+ *
+ *     dst = src2 - src1
+ *
+ * Each part is rounded once to single precision, as IEEE 754 defines the operation; no
+ * saturation. In place the result replaces the second source: srcDst - src. AC4 leaves the
+ * fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSub_32fc_C1R(const Kel32fc* pSrc1, int src1Step, const Kel32fc* pSrc2, int src2Step, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSub_32fc_C3R(const Kel32fc* pSrc1, int src1Step, const Kel32fc* pSrc2, int src2Step, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSub_32fc_AC4R(const Kel32fc* pSrc1, int src1Step, const Kel32fc* pSrc2, int src2Step, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSub_32fc_C1IR(const Kel32fc* pSrc, int srcStep, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSub_32fc_C3IR(const Kel32fc* pSrc, int srcStep, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSub_32fc_AC4IR(const Kel32fc* pSrc, int srcStep, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Multiplies two complex images.
+ *
+ *     dst = src1 * src2 * 2^-scaleFactor
+ *
+ * For a + bi and c + di the product is (a*c - b*d) + (a*d + b*c)i. The product, exact in each
+ * part, is scaled, rounded to the nearest integer with ties to even, and saturated, each part
+ * by itself. Any scale factor is valid: above 31 (16sc) or 63 (32sc) every result is 0, and the
+ * sources are not read. In place the result replaces the second source. AC4 leaves the fourth
+ * sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMul_16sc_C1RSfs(const Kel16sc* pSrc1, int src1Step, const Kel16sc* pSrc2, int src2Step, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_16sc_C3RSfs(const Kel16sc* pSrc1, int src1Step, const Kel16sc* pSrc2, int src2Step, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_16sc_AC4RSfs(const Kel16sc* pSrc1, int src1Step, const Kel16sc* pSrc2, int src2Step, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_16sc_C1IRSfs(const Kel16sc* pSrc, int srcStep, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_16sc_C3IRSfs(const Kel16sc* pSrc, int srcStep, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_16sc_AC4IRSfs(const Kel16sc* pSrc, int srcStep, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_32sc_C1RSfs(const Kel32sc* pSrc1, int src1Step, const Kel32sc* pSrc2, int src2Step, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_32sc_C3RSfs(const Kel32sc* pSrc1, int src1Step, const Kel32sc* pSrc2, int src2Step, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_32sc_AC4RSfs(const Kel32sc* pSrc1, int src1Step, const Kel32sc* pSrc2, int src2Step, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_32sc_C1IRSfs(const Kel32sc* pSrc, int srcStep, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_32sc_C3IRSfs(const Kel32sc* pSrc, int srcStep, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMul_32sc_AC4IRSfs(const Kel32sc* pSrc, int srcStep, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Multiplies two floating-point complex images.
+ *
+ *     dst = src1 * src2
+ *
+ * For a + bi and c + di the product is (a*c - b*d) + (a*d + b*c)i. Both products, and then
+ * their difference or sum, are rounded to single precision, as IEEE 754 defines the operations.
+ * A part that is not a number has the bits 0xFFC00000. In place the result replaces the second
+ * source. AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMul_32fc_C1R(const Kel32fc* pSrc1, int src1Step, const Kel32fc* pSrc2, int src2Step, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMul_32fc_C3R(const Kel32fc* pSrc1, int src1Step, const Kel32fc* pSrc2, int src2Step, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMul_32fc_AC4R(const Kel32fc* pSrc1, int src1Step, const Kel32fc* pSrc2, int src2Step, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMul_32fc_C1IR(const Kel32fc* pSrc, int srcStep, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMul_32fc_C3IR(const Kel32fc* pSrc, int srcStep, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMul_32fc_AC4IR(const Kel32fc* pSrc, int srcStep, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Divides the second complex image by the first.
+ *
+ *     dst = src2 / src1 * 2^-scaleFactor
+ *
+ * For the dividend a + bi and the divisor c + di the quotient is ((a*c + b*d) + (b*c - a*d)i) /
+ * (c*c + d*d). Each part of the exact quotient is scaled, rounded once to the nearest integer
+ * with ties to even, and saturated. Any scale factor is valid. Where both parts of the divisor
+ * are 0, each part of the result is the largest value of its type, the least, or 0, by the sign
+ * of the dividend's part and whatever the scale factor, and the function returns
+ * kelStatusDivByZeroWarning; every pixel is written. In place the result replaces the second
+ * source: srcDst / src. AC4 leaves the fourth sample of every pixel as it was, and a zero there
+ * is no divisor.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliDiv_16sc_C1RSfs(const Kel16sc* pSrc1, int src1Step, const Kel16sc* pSrc2, int src2Step, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_16sc_C3RSfs(const Kel16sc* pSrc1, int src1Step, const Kel16sc* pSrc2, int src2Step, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_16sc_AC4RSfs(const Kel16sc* pSrc1, int src1Step, const Kel16sc* pSrc2, int src2Step, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_16sc_C1IRSfs(const Kel16sc* pSrc, int srcStep, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_16sc_C3IRSfs(const Kel16sc* pSrc, int srcStep, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_16sc_AC4IRSfs(const Kel16sc* pSrc, int srcStep, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_32sc_C1RSfs(const Kel32sc* pSrc1, int src1Step, const Kel32sc* pSrc2, int src2Step, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_32sc_C3RSfs(const Kel32sc* pSrc1, int src1Step, const Kel32sc* pSrc2, int src2Step, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_32sc_AC4RSfs(const Kel32sc* pSrc1, int src1Step, const Kel32sc* pSrc2, int src2Step, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_32sc_C1IRSfs(const Kel32sc* pSrc, int srcStep, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_32sc_C3IRSfs(const Kel32sc* pSrc, int srcStep, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDiv_32sc_AC4IRSfs(const Kel32sc* pSrc, int srcStep, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Divides the second floating-point complex image by the first.
+ *
+ *     dst = src2 / src1
+ *
+ * For the dividend a + bi and the divisor c + di the quotient is ((a*c + b*d) + (b*c - a*d)i) /
+ * (c*c + d*d). Products, sums and quotients are formed in double precision, where the divisor's
+ * square neither overflows nor vanishes, and each part is rounded to single precision at the
+ * end. A part that is not a number has the bits 0xFFC00000. Where both parts of the divisor are
+ * 0, each part of the result is +infinity, -infinity, or not a number, by the sign of the
+ * dividend's part (not a number for 0), and the function returns kelStatusDivByZeroWarning;
+ * every pixel is written. An infinite divisor follows the formula, which gives 0 only where it
+ * stays defined. In place the result replaces the second source: srcDst / src. AC4 leaves the
+ * fourth sample of every pixel as it was, and a zero there is no divisor.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliDiv_32fc_C1R(const Kel32fc* pSrc1, int src1Step, const Kel32fc* pSrc2, int src2Step, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDiv_32fc_C3R(const Kel32fc* pSrc1, int src1Step, const Kel32fc* pSrc2, int src2Step, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDiv_32fc_AC4R(const Kel32fc* pSrc1, int src1Step, const Kel32fc* pSrc2, int src2Step, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDiv_32fc_C1IR(const Kel32fc* pSrc, int srcStep, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDiv_32fc_C3IR(const Kel32fc* pSrc, int srcStep, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDiv_32fc_AC4IR(const Kel32fc* pSrc, int srcStep, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Adds a constant to a complex image.
+ *
+ *     dst = (src + value) * 2^-scaleFactor
+ *
+ * The constant is one complex value for C1, and an array of three, one for each channel, for C3
+ * and AC4. The sum, exact in each part, is scaled, rounded to the nearest integer with ties to
+ * even, and saturated, each part by itself. Any scale factor is valid: above 16 (16sc) or 32
+ * (32sc) every result is 0, and the source is not read. AC4 leaves the fourth sample of every
+ * pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliAddC_16sc_C1RSfs(const Kel16sc* pSrc, int srcStep, Kel16sc value, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_16sc_C3RSfs(const Kel16sc* pSrc, int srcStep, const Kel16sc value[3], Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_16sc_AC4RSfs(const Kel16sc* pSrc, int srcStep, const Kel16sc value[3], Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_16sc_C1IRSfs(Kel16sc value, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_16sc_C3IRSfs(const Kel16sc value[3], Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_16sc_AC4IRSfs(const Kel16sc value[3], Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_32sc_C1RSfs(const Kel32sc* pSrc, int srcStep, Kel32sc value, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_32sc_C3RSfs(const Kel32sc* pSrc, int srcStep, const Kel32sc value[3], Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_32sc_AC4RSfs(const Kel32sc* pSrc, int srcStep, const Kel32sc value[3], Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_32sc_C1IRSfs(Kel32sc value, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_32sc_C3IRSfs(const Kel32sc value[3], Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliAddC_32sc_AC4IRSfs(const Kel32sc value[3], Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Adds a constant to a floating-point complex image.
+ *
+ *     dst = src + value
+ *
+ * The constant is one complex value for C1, and an array of three, one for each channel, for C3
+ * and AC4. Each part is rounded once to single precision, as IEEE 754 defines the operation.
+ * AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliAddC_32fc_C1R(const Kel32fc* pSrc, int srcStep, Kel32fc value, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAddC_32fc_C3R(const Kel32fc* pSrc, int srcStep, const Kel32fc value[3], Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAddC_32fc_AC4R(const Kel32fc* pSrc, int srcStep, const Kel32fc value[3], Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAddC_32fc_C1IR(Kel32fc value, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAddC_32fc_C3IR(const Kel32fc value[3], Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAddC_32fc_AC4IR(const Kel32fc value[3], Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Subtracts a constant from a complex image.
+ *
+ *     dst = (src - value) * 2^-scaleFactor
+ *
+ * The constant is one complex value for C1, and an array of three, one for each channel, for C3
+ * and AC4. The difference, exact in each part, is scaled, rounded to the nearest integer with
+ * ties to even, and saturated, each part by itself. Any scale factor is valid: above 16 (16sc)
+ * or 32 (32sc) every result is 0, and the source is not read. AC4 leaves the fourth sample of
+ * every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSubC_16sc_C1RSfs(const Kel16sc* pSrc, int srcStep, Kel16sc value, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_16sc_C3RSfs(const Kel16sc* pSrc, int srcStep, const Kel16sc value[3], Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_16sc_AC4RSfs(const Kel16sc* pSrc, int srcStep, const Kel16sc value[3], Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_16sc_C1IRSfs(Kel16sc value, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_16sc_C3IRSfs(const Kel16sc value[3], Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_16sc_AC4IRSfs(const Kel16sc value[3], Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_32sc_C1RSfs(const Kel32sc* pSrc, int srcStep, Kel32sc value, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_32sc_C3RSfs(const Kel32sc* pSrc, int srcStep, const Kel32sc value[3], Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_32sc_AC4RSfs(const Kel32sc* pSrc, int srcStep, const Kel32sc value[3], Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_32sc_C1IRSfs(Kel32sc value, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_32sc_C3IRSfs(const Kel32sc value[3], Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSubC_32sc_AC4IRSfs(const Kel32sc value[3], Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Subtracts a constant from a floating-point complex image.
+ *
+ *     dst = src - value
+ *
+ * The constant is one complex value for C1, and an array of three, one for each channel, for C3
+ * and AC4. Each part is rounded once to single precision, as IEEE 754 defines the operation.
+ * AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSubC_32fc_C1R(const Kel32fc* pSrc, int srcStep, Kel32fc value, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSubC_32fc_C3R(const Kel32fc* pSrc, int srcStep, const Kel32fc value[3], Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSubC_32fc_AC4R(const Kel32fc* pSrc, int srcStep, const Kel32fc value[3], Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSubC_32fc_C1IR(Kel32fc value, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSubC_32fc_C3IR(const Kel32fc value[3], Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSubC_32fc_AC4IR(const Kel32fc value[3], Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Multiplies a complex image by a constant.
+ *
+ *     dst = src * value * 2^-scaleFactor
+ *
+ * The constant is one complex value for C1, and an array of three, one for each channel, for C3
+ * and AC4. For a + bi and c + di the product is (a*c - b*d) + (a*d + b*c)i. The product, exact
+ * in each part, is scaled, rounded to the nearest integer with ties to even, and saturated,
+ * each part by itself. Any scale factor is valid: above 31 (16sc) or 63 (32sc) every result is
+ * 0, and the source is not read. AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMulC_16sc_C1RSfs(const Kel16sc* pSrc, int srcStep, Kel16sc value, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_16sc_C3RSfs(const Kel16sc* pSrc, int srcStep, const Kel16sc value[3], Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_16sc_AC4RSfs(const Kel16sc* pSrc, int srcStep, const Kel16sc value[3], Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_16sc_C1IRSfs(Kel16sc value, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_16sc_C3IRSfs(const Kel16sc value[3], Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_16sc_AC4IRSfs(const Kel16sc value[3], Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_32sc_C1RSfs(const Kel32sc* pSrc, int srcStep, Kel32sc value, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_32sc_C3RSfs(const Kel32sc* pSrc, int srcStep, const Kel32sc value[3], Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_32sc_AC4RSfs(const Kel32sc* pSrc, int srcStep, const Kel32sc value[3], Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_32sc_C1IRSfs(Kel32sc value, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_32sc_C3IRSfs(const Kel32sc value[3], Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliMulC_32sc_AC4IRSfs(const Kel32sc value[3], Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Multiplies a floating-point complex image by a constant.
+ *
+ *     dst = src * value
+ *
+ * The constant is one complex value for C1, and an array of three, one for each channel, for C3
+ * and AC4. For a + bi and c + di the product is (a*c - b*d) + (a*d + b*c)i. Both products, and
+ * then their difference or sum, are rounded to single precision, as IEEE 754 defines the
+ * operations. A part that is not a number has the bits 0xFFC00000. AC4 leaves the fourth sample
+ * of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMulC_32fc_C1R(const Kel32fc* pSrc, int srcStep, Kel32fc value, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulC_32fc_C3R(const Kel32fc* pSrc, int srcStep, const Kel32fc value[3], Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulC_32fc_AC4R(const Kel32fc* pSrc, int srcStep, const Kel32fc value[3], Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulC_32fc_C1IR(Kel32fc value, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulC_32fc_C3IR(const Kel32fc value[3], Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliMulC_32fc_AC4IR(const Kel32fc value[3], Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Divides a complex image by a constant.
+ *
+ *     dst = src / value * 2^-scaleFactor
+ *
+ * The constant is one complex value for C1, and an array of three, one for each channel, for C3
+ * and AC4. For the dividend a + bi and the divisor c + di the quotient is ((a*c + b*d) + (b*c -
+ * a*d)i) / (c*c + d*d). Each part of the exact quotient is scaled, rounded once to the nearest
+ * integer with ties to even, and saturated. Any scale factor is valid: above 16 (16sc) or 32
+ * (32sc) every result is 0, and the source is not read. A constant is 0 where both of its parts
+ * are. AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusDivisorZero if
+ * the constant, or one of its channels, is 0.
+ */
+KELI_API KelStatus keliDivC_16sc_C1RSfs(const Kel16sc* pSrc, int srcStep, Kel16sc value, Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_16sc_C3RSfs(const Kel16sc* pSrc, int srcStep, const Kel16sc value[3], Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_16sc_AC4RSfs(const Kel16sc* pSrc, int srcStep, const Kel16sc value[3], Kel16sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_16sc_C1IRSfs(Kel16sc value, Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_16sc_C3IRSfs(const Kel16sc value[3], Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_16sc_AC4IRSfs(const Kel16sc value[3], Kel16sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_32sc_C1RSfs(const Kel32sc* pSrc, int srcStep, Kel32sc value, Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_32sc_C3RSfs(const Kel32sc* pSrc, int srcStep, const Kel32sc value[3], Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_32sc_AC4RSfs(const Kel32sc* pSrc, int srcStep, const Kel32sc value[3], Kel32sc* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_32sc_C1IRSfs(Kel32sc value, Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_32sc_C3IRSfs(const Kel32sc value[3], Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliDivC_32sc_AC4IRSfs(const Kel32sc value[3], Kel32sc* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Divides a floating-point complex image by a constant.
+ *
+ *     dst = src / value
+ *
+ * The constant is one complex value for C1, and an array of three, one for each channel, for C3
+ * and AC4. For the dividend a + bi and the divisor c + di the quotient is ((a*c + b*d) + (b*c -
+ * a*d)i) / (c*c + d*d). Products, sums and quotients are formed in double precision, where the
+ * divisor's square neither overflows nor vanishes, and each part is rounded to single precision
+ * at the end. A part that is not a number has the bits 0xFFC00000. A constant is 0 where both
+ * of its parts are. AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusDivisorZero if
+ * the constant, or one of its channels, is 0.
+ */
+KELI_API KelStatus keliDivC_32fc_C1R(const Kel32fc* pSrc, int srcStep, Kel32fc value, Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDivC_32fc_C3R(const Kel32fc* pSrc, int srcStep, const Kel32fc value[3], Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDivC_32fc_AC4R(const Kel32fc* pSrc, int srcStep, const Kel32fc value[3], Kel32fc* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDivC_32fc_C1IR(Kel32fc value, Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDivC_32fc_C3IR(const Kel32fc value[3], Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDivC_32fc_AC4IR(const Kel32fc value[3], Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
+
 /* ==== Bitwise operations and shifts ==== */
 
 /**

@@ -2,7 +2,7 @@
 //
 // An operation (Op) has
 //   kPeriod                 length of the cycle of its constants: 1, or the number of channels
-//   kUnroll                 vectors in flight, a multiple of 3 where the cycle is
+//   kUnroll                 vectors in flight, a multiple of those that the cycle makes different
 //   at(d, phase)            what a vector that starts at that phase of the cycle needs,
 //   loop-invariant vector(d, at, a...)     the vector form; d is the tag of the destination's
 //   samples scalar(phase, a...)     the definition; it alone runs on the scalar target

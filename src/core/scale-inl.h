@@ -98,16 +98,67 @@ struct RoundSigned {
   }
 };
 
-// Lanes of 8 or 16 bits scaled by a factor of 0 or less: v << -scaleFactor, saturated.
+// Signed lanes of 32 or 64 bits of any value, scaled by 1 and more, less than they have bits. No
+// sum overflows: what is shifted out is compared with one half, or with the next smaller value
+// where the quotient is odd.
+template <class D>
+struct RoundAny {
+  using T = hn::TFromD<D>;
+  using Unsigned = hn::RebindToUnsigned<D>;
+  static constexpr int kBits = 8 * sizeof(T);
+  int scaleFactor;
+  hn::Vec<D> mask;
+  hn::Vec<D> half;
+  hn::Vec<D> one;
+  hn::Vec<D> sign;
+  hn::Vec<D> shiftedSign;
+
+  static HWY_INLINE RoundAny make(D d, int sf) {
+    using U = hwy::MakeUnsigned<T>;
+    const auto set = [&](U bits) KELI_LAMBDA { return hn::Set(d, static_cast<T>(bits)); };
+    return {sf,     set((U{1} << sf) - 1),    set(U{1} << (sf - 1)),
+            set(1), set(U{1} << (kBits - 1)), set(U{1} << (kBits - 1 - sf))};
+  }
+
+  HWY_INLINE hn::Vec<D> shifted(hn::Vec<D> v) const {
+    const D d;
+    if constexpr (kBits == 32) {
+      return shiftRightBy(d, v, scaleFactor);
+    } else {  // not all targets have this shift: add 2^63, shift, take it off again
+      const Unsigned du;
+      const auto above = shiftRightBy(du, hn::BitCast(du, hn::Xor(v, sign)), scaleFactor);
+      return hn::BitCast(d, above) - shiftedSign;
+    }
+  }
+
+  HWY_INLINE hn::Vec<D> operator()(hn::Vec<D> v) const {
+    const hn::Vec<D> quotient = shifted(v);
+    return rounded(v, quotient, quotient);
+  }
+  // v and half of bit 0 of `more`: with it, a tie of v is past the half.
+  HWY_INLINE hn::Vec<D> operator()(hn::Vec<D> v, hn::Vec<D> more) const {
+    const hn::Vec<D> quotient = shifted(v);
+    return rounded(v, quotient, hn::Or(quotient, more));
+  }
+
+ private:
+  HWY_INLINE hn::Vec<D> rounded(hn::Vec<D> v, hn::Vec<D> quotient, hn::Vec<D> upAtHalf) const {
+    const D d;
+    const hn::Vec<D> limit = half - hn::And(upAtHalf, one);
+    return quotient - hn::VecFromMask(d, hn::And(v, mask) > limit);
+  }
+};
+
+// Lanes scaled by a factor of 0 or less: v << -scaleFactor, saturated. Unsigned ones have 8 bits.
 template <class D>
 struct ScaleUp {
   using T = hn::TFromD<D>;
   using D16 = hn::Repartition<std::uint16_t, D>;
-  int count;       // as many as the lanes have bits saturate all but 0; 15 all but 0 and -1
+  static constexpr int kMost = sizeof(T) == 1 ? 8 : 8 * sizeof(T) - 1;
+  int count;       // kMost saturates all but 0, and but -1 of signed lanes
   hn::Vec<D> top;  // of 8 bits, the largest value that does not saturate
 
   static HWY_INLINE ScaleUp make(D d, int scaleFactor) {
-    constexpr int kMost = sizeof(T) == 1 ? 8 : 15;
     const int count = scaleFactor < -kMost ? kMost : -scaleFactor;
     return {count, hn::Set(d, static_cast<T>(0xFF >> count))};
   }
@@ -122,7 +173,7 @@ struct ScaleUp {
     } else {
       const hn::Vec<D> shifted = hn::ShiftLeftSame(v, count);
       const hn::Vec<D> limit =
-          hn::Xor(hn::ShiftRight<15>(v), hn::Set(d, std::numeric_limits<T>::max()));
+          hn::Xor(hn::ShiftRight<kMost>(v), hn::Set(d, std::numeric_limits<T>::max()));
       return hn::IfThenElse(hn::Eq(hn::ShiftRightSame(shifted, count), v), shifted, limit);
     }
   }

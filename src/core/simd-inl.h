@@ -89,6 +89,58 @@ HWY_INLINE void unrolled(F&& f) {
   unrolledImpl(static_cast<F&&>(f), std::make_index_sequence<kCount>{});
 }
 
+// a.even * b.even + a.odd * b.odd of each pair of 16-bit lanes; 2^31, of four factors -32768,
+// wraps.
+template <class DW, class V>
+HWY_INLINE hn::Vec<DW> multiplyAddPairs([[maybe_unused]] DW dw, V a, V b) {
+#if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
+  if constexpr (hn::MaxLanes(DW()) == 8) {
+    return hn::Vec<DW>{_mm256_madd_epi16(a.raw, b.raw)};
+  } else {
+    return hn::Vec<DW>{_mm_madd_epi16(a.raw, b.raw)};
+  }
+#else
+  const auto wideA = hn::BitCast(dw, a), wideB = hn::BitCast(dw, b);
+  const auto evenA = hn::ShiftRight<16>(hn::ShiftLeft<16>(wideA));
+  const auto evenB = hn::ShiftRight<16>(hn::ShiftLeft<16>(wideB));
+  return evenA * evenB + hn::ShiftRight<16>(wideA) * hn::ShiftRight<16>(wideB);
+#endif
+}
+
+// The lanes of even and odd by turns, signed 32-bit lanes saturated to 16 bits.
+template <class D, class V>
+HWY_INLINE hn::Vec<D> packAlternately([[maybe_unused]] D d, V even, V odd) {
+#if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
+  // The pack makes 16 bytes of four lanes of even and four of odd.
+  alignas(16) static constexpr std::uint8_t kTurns[16] = {0, 1, 8,  9,  2, 3, 10, 11,
+                                                          4, 5, 12, 13, 6, 7, 14, 15};
+  const hn::Repartition<std::uint8_t, D> d8;
+  const auto turns = hn::LoadDup128(d8, kTurns);
+  if constexpr (hn::MaxLanes(D()) == 16) {
+    return hn::TableLookupBytes(hn::Vec<D>{_mm256_packs_epi32(even.raw, odd.raw)},
+                                hn::BitCast(d, turns));
+  } else {
+    return hn::TableLookupBytes(hn::Vec<D>{_mm_packs_epi32(even.raw, odd.raw)},
+                                hn::BitCast(d, turns));
+  }
+#else
+  const hn::RepartitionToWide<D> dw;
+  const auto least = hn::Set(dw, -32768), most = hn::Set(dw, 32767);
+  const auto fit = [&](V v) KELI_LAMBDA { return hn::Min(hn::Max(v, least), most); };
+  return hn::OddEven(hn::BitCast(d, hn::ShiftLeft<16>(fit(odd))), hn::BitCast(d, fit(even)));
+#endif
+}
+
+// The odd lane of each pair, twice.
+template <class V>
+HWY_INLINE V dupOdd(V v) {
+#if HWY_TARGET == HWY_SCALAR
+  return v;  // never run: the drivers call scalar definitions
+#else
+  return hn::DupOdd(v);
+#endif
+}
+
 // Signed lanes saturated to half their width: each 16 bytes hold those of lo, then those of hi.
 template <class D, class VW>
 HWY_INLINE hn::Vec<D> packSaturated([[maybe_unused]] D d, [[maybe_unused]] VW lo,
@@ -133,14 +185,15 @@ HWY_INLINE hn::Vec<D> packSaturated([[maybe_unused]] D d, [[maybe_unused]] VW lo
 #endif
 }
 
-// v >> count, for lanes of 32 bits.
+// v >> count, for lanes of 32 bits, and of 64 that are unsigned.
 template <class D>
-HWY_INLINE hn::Vec<D> shiftRightBy(D d, hn::Vec<D> v, int count) {
+HWY_INLINE hn::Vec<D> shiftRightBy([[maybe_unused]] D d, hn::Vec<D> v, int count) {
 #if HWY_TARGET == HWY_SSE4
-  (void)d;
   return hn::ShiftRightSame(v, count);
 #else
-  // One count for each lane is one instruction, a common count is two.
+  // One count for each lane is one instruction, a common count is two. Of a single lane of 32 bits
+  // the library would take the count from 64, of which Set has filled both halves.
+  if constexpr (hn::MaxLanes(D()) == 1) return hn::ShiftRightSame(v, count);
   return v >> hn::Set(d, static_cast<hn::TFromD<D>>(count));
 #endif
 }

@@ -102,6 +102,26 @@ HWY_INLINE hn::Vec<D> narrow(D d, const Wide<D>& w) {
   }
 }
 
+// f(d, v...) on lanes of 32 bits as doubles, converted to the lanes of v again; integers saturate.
+template <class D, class F, class... V>
+HWY_INLINE hn::Vec<D> mapDoubles(D d, [[maybe_unused]] const F& f, [[maybe_unused]] V... v) {
+#if HWY_TARGET == HWY_SCALAR
+  return hn::Zero(d);  // never run: the drivers call scalar definitions
+#else
+  constexpr std::size_t kVectorBytes = HWY_MAX_BYTES < 32 ? HWY_MAX_BYTES : 32;
+  if constexpr (hn::MaxLanes(D()) * sizeof(double) > kVectorBytes) {
+    const hn::Half<D> dh;
+    const hn::Rebind<double, hn::Half<D>> dd;
+    const auto lo = f(dd, hn::PromoteTo(dd, hn::LowerHalf(dh, v))...);
+    const auto hi = f(dd, hn::PromoteTo(dd, hn::UpperHalf(dh, v))...);
+    return hn::Combine(d, hn::DemoteTo(dh, hi), hn::DemoteTo(dh, lo));
+  } else {
+    const hn::Rebind<double, D> dd;
+    return hn::DemoteTo(d, f(dd, hn::PromoteTo(dd, v)...));
+  }
+#endif
+}
+
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
