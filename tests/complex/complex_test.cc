@@ -270,5 +270,16 @@ TEST(Complex, KnownResults) {
   EXPECT_TRUE(d.re == 0 && d.im == 2);
 }
 
+// Several channels are no other function over more samples: pointers come first for them, too.
+TEST(Complex, OrderOfChecks) {
+  Kel16sc p[3] = {};
+  const Kel16sc zero = {0, 0}, zeros[3] = {{1, 0}, {0, 0}, {0, 1}};
+  const KeliSize none = {0, 1}, one = {1, 1};
+  EXPECT_EQ(keliAdd_16sc_C3RSfs(nullptr, 0, p, 12, p, 12, none, 0), kelStatusNullPointer);
+  EXPECT_EQ(keliDiv_16sc_C3RSfs(p, 0, p, 12, p, 12, none, 0), kelStatusBadSize);
+  EXPECT_EQ(keliDivC_16sc_C1RSfs(p, 0, zero, p, 4, one, 0), kelStatusBadStep);
+  EXPECT_EQ(keliDivC_16sc_C3RSfs(p, 12, zeros, p, 12, one, 0), kelStatusDivisorZero);
+}
+
 }  // namespace
 }  // namespace keli::test
