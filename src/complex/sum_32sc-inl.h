@@ -52,8 +52,9 @@ HWY_INLINE V saturatedSum(Operation operation, D d, V a, V b) {
 }
 
 struct Unscaled32 {  // 0
-  template <class D>
-  static HWY_INLINE Nothing at(D, int) {
+  static constexpr bool kLong = false;
+  template <class Operation, class D>
+  static HWY_INLINE Nothing at(Operation, D, int) {
     return {};
   }
   template <class Operation, class D, class V>
@@ -63,8 +64,9 @@ struct Unscaled32 {  // 0
 };
 
 struct Up32 {  // 0 and less
-  template <class D>
-  static HWY_INLINE ScaleUp<D> at(D d, int scaleFactor) {
+  static constexpr bool kLong = false;
+  template <class Operation, class D>
+  static HWY_INLINE ScaleUp<D> at(Operation, D d, int scaleFactor) {
     return ScaleUp<D>::make(d, scaleFactor);
   }
   template <class Operation, class D, class V>
@@ -74,8 +76,9 @@ struct Up32 {  // 0 and less
 };
 
 struct Half32 {  // 1
-  template <class D>
-  static HWY_INLINE Nothing at(D, int) {
+  static constexpr bool kLong = false;
+  template <class Operation, class D>
+  static HWY_INLINE Nothing at(Operation, D, int) {
     return {};
   }
   template <class Operation, class D, class V>
@@ -88,8 +91,9 @@ struct Half32 {  // 1
 };
 
 struct Down32 {  // 2 and more
-  template <class D>
-  static HWY_INLINE RoundAny<D> at(D d, int scaleFactor) {
+  static constexpr bool kLong = false;
+  template <class Operation, class D>
+  static HWY_INLINE RoundAny<D> at(Operation, D d, int scaleFactor) {
     return RoundAny<D>::make(d, scaleFactor - 1);
   }
   template <class Operation, class D, class V>

@@ -7,10 +7,17 @@
 
 namespace keli::test {
 
+// Wide enough for any product of real samples, and for those of complex ones of 32 bits where there
+// are integers of 128 bits.
+#ifdef __SIZEOF_INT128__
 __extension__ typedef __int128 Exact;
+#else
+using Exact = std::int64_t;
+#endif
+constexpr bool kExactHolds32sc = sizeof(Exact) == 16;
 
 // numerator / denominator * 2^-scaleFactor rounded to the nearest integer, ties to even, clamped to
-// T; the denominator is positive, and both are below 2^100 in size.
+// T; the denominator is positive, and both leave a quarter of Exact's range.
 template <class T>
 T scaledQuotient(Exact numerator, Exact denominator, int scaleFactor) {
   const Exact least = std::numeric_limits<T>::min(), most = std::numeric_limits<T>::max();
