@@ -49,7 +49,7 @@ class Image {
   // The region as one block; one row if nothing separates the rows.
   Block block() const;
 
-  void fillPattern(std::uint64_t seed) const;
+  void fillPattern(std::uint64_t seed, double most = 256) const;
   void fillBytes(std::uint8_t value) const;
   void fillBlobs(std::uint64_t seed) const;  // about half of the pixels 255, the others 0
 
@@ -69,6 +69,7 @@ class Image {
 struct Choices {
   int scaleFactor = 0;
   double constant = 17;  // of the first channel; that of channel k is (k + 1) times as large
+  double most = 256;     // what floating samples stay below
 };
 
 // The channel that functions of a single channel of interleaved pixels work on.
