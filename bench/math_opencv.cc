@@ -53,7 +53,7 @@ const AddPeers kPeers({
     {"keliLn_8u_C1RSfs", "OpenCV LUT", lookUp<keliLn_8u_C1RSfs, -1>},
     {"keliLn_32f_C1R", "OpenCV log", log, 1e-5},
     {"keliExp_8u_C1RSfs", "OpenCV LUT", lookUp<keliExp_8u_C1RSfs, 0>},
-    {"keliExp_32f_C1R", "OpenCV exp", exp, 4},
+    {"keliExp_32f_C1R", "OpenCV exp", exp, 32},
 });
 
 }  // namespace

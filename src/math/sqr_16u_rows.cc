@@ -1,7 +1,5 @@
 // Row kernels of Sqr of 16u: src * src * 2^-scaleFactor, rounded to nearest with ties to even,
 // saturated.
-#include <cmath>
-
 #define KELI_ENABLE_AVX512
 #include "core/simd_config.h"
 #include "core/target.h"
@@ -11,38 +9,13 @@
 #include <hwy/foreach_target.h>
 //
 #include "core/scale-inl.h"
-#include "math/unary-inl.h"
+#include "math/square-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
-struct SquareOf16u : UnaryOp {
-  int scaleFactor;
-  HWY_INLINE explicit SquareOf16u(int sf) : scaleFactor(sf) {}
-  HWY_INLINE Kel16u scalar(std::size_t, Kel16u v) const {
-    return scaled<Kel16u>(std::int64_t{v} * v, scaleFactor);
-  }
-};
-
-// 0 and less: squares that do not saturate, and their multiples, fit 16 bits.
-struct SquareUp : SquareOf16u {
-  int count;
-  Kel16u most;  // whose square does not saturate
-
-  HWY_INLINE explicit SquareUp(int sf)
-      : SquareOf16u(sf),
-        count(sf < -15 ? 15 : -sf),
-        most(static_cast<Kel16u>(sf < -15 ? 0 : std::sqrt(65535 >> count))) {}
-
-  template <class D, class V>
-  HWY_INLINE V vector(D d, Nothing, V v) const {
-    const V square = hn::ShiftLeftSame(v * v, count);
-    return hn::Or(square, hn::VecFromMask(d, v > hn::Set(d, most)));
-  }
-};
-
-struct SquareHalf : SquareOf16u {  // 1
-  HWY_INLINE SquareHalf() : SquareOf16u(1) {}
+struct SquareHalf : Square<Kel16u> {  // 1
+  HWY_INLINE SquareHalf() : Square<Kel16u>(1) {}
 
   template <class D, class V>
   HWY_INLINE V vector(D d, Nothing, V v) const {
@@ -56,8 +29,8 @@ struct SquareHalf : SquareOf16u {  // 1
 
 // 2 and more. A square takes all 32 bits, so it is halved first; the last bit of the half is set
 // where it lost one: below the bit that decides a tie it only tells that there is something.
-struct SquareDown : SquareOf16u {
-  HWY_INLINE explicit SquareDown(int sf) : SquareOf16u(sf) {}
+struct SquareDown : Square<Kel16u> {
+  HWY_INLINE explicit SquareDown(int sf) : Square<Kel16u>(sf) {}
 
   template <class D>
   HWY_INLINE RoundSigned<WideTag<D>> at(D, std::size_t) const {
@@ -73,7 +46,7 @@ struct SquareDown : SquareOf16u {
 
 template <class Keep>
 KelStatus ownSqr16u(const Band<1>& b, int sf) {
-  if (sf <= 0) return quietly<Kel16u, Keep>(b, SquareUp(sf));
+  if (sf <= 0) return quietly<Kel16u, Keep>(b, SquareUp<Kel16u>(sf));
   if (sf == 1) return quietly<Kel16u, Keep>(b, SquareHalf());
   return quietly<Kel16u, Keep>(b, SquareDown(sf));
 }

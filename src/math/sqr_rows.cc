@@ -1,4 +1,5 @@
-// Row kernels of Sqr: src * src, of 8u and 16s with the kernels of products.
+// Row kernels of Sqr: src * src, of 8u, 16s and 32f; integers scaled down use
+// the kernels of products.
 #define KELI_ENABLE_AVX512
 #include "core/simd_config.h"
 #include "core/target.h"
@@ -8,6 +9,7 @@
 #include <hwy/foreach_target.h>
 //
 #include "arith/scaled-inl.h"
+#include "math/square-inl.h"
 #include "math/unary-inl.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -34,12 +36,23 @@ struct Twice {
   }
 };
 
-template <class T, class Keep>
-KelStatus ownSqr(const Band<1>& b, int sf) {
-  forScaleFactor<Mul, T, Keep::kPeriod == 1>(sf, [&](const auto& op) KELI_LAMBDA {
-    mapRows<T, T, Keep>(b, Twice<std::decay_t<decltype(op)>>{op});
-  });
-  return kelStatusOk;
+// Scaled down by 1 and more: the kernels of products.
+template <class T, class How, class Keep>
+KelStatus squareDown(const Band<1>& b, int sf) {
+  return quietly<T, Keep>(b, Twice<Scaled<Mul, T, How>>{{sf}});
+}
+
+template <class Keep>
+KelStatus ownSqr8u(const Band<1>& b, int sf) {
+  if (sf <= 0) return quietly<Kel8u, Keep>(b, SquareUpOf8u(sf));
+  if (sf == 1) return squareDown<Kel8u, Half, Keep>(b, sf);
+  return squareDown<Kel8u, Down8, Keep>(b, sf);
+}
+
+template <class Keep>
+KelStatus ownSqr16s(const Band<1>& b, int sf) {
+  if (sf <= 0) return quietly<Kel16s, Keep>(b, SquareUp<Kel16s>(sf));
+  return squareDown<Kel16s, Down16, Keep>(b, sf);
 }
 
 struct SqrReal : UnaryOp {
@@ -55,8 +68,8 @@ KelStatus ownSqr32f(const Band<1>& b, int) {
   return quietly<Kel32f, Keep>(b, SqrReal());
 }
 
-constexpr math::Unary kSqr8u = {ownSqr<Kel8u, KeepNone>, ownSqr<Kel8u, KeepOthers<4, 3>>};
-constexpr math::Unary kSqr16s = {ownSqr<Kel16s, KeepNone>, ownSqr<Kel16s, KeepOthers<4, 3>>};
+constexpr math::Unary kSqr8u = {ownSqr8u<KeepNone>, ownSqr8u<KeepOthers<4, 3>>};
+constexpr math::Unary kSqr16s = {ownSqr16s<KeepNone>, ownSqr16s<KeepOthers<4, 3>>};
 constexpr math::Unary kSqr32f = {ownSqr32f<KeepNone>, ownSqr32f<KeepOthers<4, 3>>};
 
 }  // namespace keli::HWY_NAMESPACE

@@ -19,11 +19,6 @@ long double inUlps(long double v, long double of) {
   return std::ldexp(std::fabs(v), 24 - std::max(exponent, -125));
 }
 
-// Infinity counts as the number after the largest.
-long double extended(Kel32f v) {
-  return std::isinf(v) ? std::copysign(std::ldexp(1.0L, 128), v) : static_cast<long double>(v);
-}
-
 struct Real {
   const char* name;
   Function function;
@@ -44,7 +39,8 @@ std::uint32_t lnSpecial(Kel32f v) {
 }
 std::uint32_t expSpecial(Kel32f v) {
   if (std::isnan(v)) return kQuietNan;
-  return v > 89 ? 0x7F800000 : v < -104 ? 0 : kDefined;
+  const Kel32f infinite = ofBits(0x42B17218);  // the first whose exponential is above 2^128
+  return v >= infinite ? 0x7F800000 : v < -104 ? 0 : kDefined;
 }
 
 // A root errs by at most half a unit, which no root of a number meets: it would take 25 bits.
@@ -62,7 +58,7 @@ void checkSample(const Real& real, Kel32f v, Kel32f result, long double* worst) 
     return;
   }
   const long double exact = real.definition(v);
-  const long double error = inUlps(extended(result) - exact, exact);
+  const long double error = inUlps(result - exact, exact);
   if (!(error <= *worst)) {
     ASSERT_LT(error, real.ulps) << real.name << " of bits " << bitsOf(v);
     *worst = error;

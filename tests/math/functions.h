@@ -1,6 +1,7 @@
 // The definitions of the unary functions, in long double arithmetic: 64 bits of significand.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -23,21 +24,27 @@ T rounded(long double v, long double* nearestTie = nullptr) {
   return static_cast<T>(std::nearbyint(v));
 }
 
+// v * 2^-scaleFactor; factors beyond any result are cut off.
+inline long double scaledBy(long double v, int scaleFactor) {
+  constexpr int kFar = 1 << 17;
+  return std::ldexp(v, -std::min(std::max(scaleFactor, -kFar), kFar));
+}
+
 template <class T>
 T sqrtDefinition(T v, int sf) {
   // Exact where it is a tie: ties are roots of squares.
-  return v < 0 ? T{0} : rounded<T>(std::ldexp(std::sqrt(static_cast<long double>(v)), -sf));
+  return v < 0 ? T{0} : rounded<T>(scaledBy(std::sqrt(static_cast<long double>(v)), sf));
 }
 
 template <class T>
 T lnDefinition(T v, int sf, long double* nearestTie = nullptr) {
   if (v <= 1) return 0;
-  return rounded<T>(std::ldexp(std::log(static_cast<long double>(v)), -sf), nearestTie);
+  return rounded<T>(scaledBy(std::log(static_cast<long double>(v)), sf), nearestTie);
 }
 
 template <class T>
 T expDefinition(T v, int sf, long double* nearestTie = nullptr) {
-  if (v == 0) return rounded<T>(std::ldexp(1.0L, -sf));
+  if (v == 0) return rounded<T>(scaledBy(1, sf));
   const long double ln2 = 0.693147180559945309417232121458176568L;
   return rounded<T>(std::exp(v - sf * ln2), nearestTie);
 }
