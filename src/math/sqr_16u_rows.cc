@@ -14,23 +14,30 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
-struct SquareHalf : Square<Kel16u> {  // 1
-  HWY_INLINE SquareHalf() : Square<Kel16u>(1) {}
+// 1 to 15. Inputs from 256 * 2^(sf/2) on saturate, and have one result: none has a square of more
+// than 2^31 + 2^17, so that rounding does not leave the unsigned lanes.
+struct SquareDown : Square<Kel16u> {
+  Kel16u most;
 
+  HWY_INLINE explicit SquareDown(int sf)
+      : Square<Kel16u>(sf),
+        most(static_cast<Kel16u>(std::sqrt(static_cast<double>(0x10000u << sf)) + 1)) {}
+
+  template <class D>
+  HWY_INLINE RoundSigned<WideTag<D>> at(D, std::size_t) const {
+    return RoundSigned<WideTag<D>>::make(WideTag<D>(), scaleFactor);
+  }
   template <class D, class V>
-  HWY_INLINE V vector(D d, Nothing, V v) const {
-    const auto one = hn::Set(WideTag<D>(), 1);
-    return narrow(d, mapWide(d, products(d, v, v), [&](auto square) KELI_LAMBDA {
-                    const auto half = hn::ShiftRight<1>(square);
-                    return half + hn::And(hn::And(half, square), one);
-                  }));
+  HWY_INLINE V vector(D d, const RoundSigned<WideTag<D>>& round, V v) const {
+    const V least = hn::Min(v, hn::Set(d, most));
+    return narrow(d, mapWide(d, products(d, least, least), round));
   }
 };
 
-// 2 and more. A square takes all 32 bits, so it is halved first; the last bit of the half is set
+// 16 and more. A square takes all 32 bits, so it is halved first; the last bit of the half is set
 // where it lost one: below the bit that decides a tie it only tells that there is something.
-struct SquareDown : Square<Kel16u> {
-  HWY_INLINE explicit SquareDown(int sf) : Square<Kel16u>(sf) {}
+struct SquareFarDown : Square<Kel16u> {
+  HWY_INLINE explicit SquareFarDown(int sf) : Square<Kel16u>(sf) {}
 
   template <class D>
   HWY_INLINE RoundSigned<WideTag<D>> at(D, std::size_t) const {
@@ -47,8 +54,8 @@ struct SquareDown : Square<Kel16u> {
 template <class Keep>
 KelStatus ownSqr16u(const Band<1>& b, int sf) {
   if (sf <= 0) return quietly<Kel16u, Keep>(b, SquareUp<Kel16u>(sf));
-  if (sf == 1) return quietly<Kel16u, Keep>(b, SquareHalf());
-  return quietly<Kel16u, Keep>(b, SquareDown(sf));
+  if (sf < 16) return quietly<Kel16u, Keep>(b, SquareDown(sf));
+  return quietly<Kel16u, Keep>(b, SquareFarDown(sf));
 }
 
 constexpr math::Unary kSqr16u = {ownSqr16u<KeepNone>, ownSqr16u<KeepOthers<4, 3>>};

@@ -9,7 +9,9 @@
 #include <hwy/foreach_target.h>
 //
 #include "arith/scaled-inl.h"
+#include "core/byte_table-inl.h"
 #include "math/square-inl.h"
+#include "math/tables.h"
 #include "math/unary-inl.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -45,8 +47,15 @@ KelStatus squareDown(const Band<1>& b, int sf) {
 template <class Keep>
 KelStatus ownSqr8u(const Band<1>& b, int sf) {
   if (sf <= 0) return quietly<Kel8u, Keep>(b, SquareUpOf8u(sf));
-  if (sf == 1) return squareDown<Kel8u, Half, Keep>(b, sf);
-  return squareDown<Kel8u, Down8, Keep>(b, sf);
+  if constexpr (kPermutesBytes) {
+    // 1.6 times as fast as products.
+    LookUpBytes op;
+    op.table = math::kSqrTables(sf);
+    return quietly<Kel8u, Keep>(b, op);
+  } else {
+    if (sf == 1) return squareDown<Kel8u, Half, Keep>(b, sf);
+    return squareDown<Kel8u, Down8, Keep>(b, sf);
+  }
 }
 
 template <class Keep>

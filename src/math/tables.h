@@ -1,11 +1,14 @@
-// Tables of the integer square root, logarithm and exponential: f(v) * 2^-scaleFactor rounded to
-// nearest, ties to even, saturated. They are computed when compiling, the roots in integers, the
-// others in double precision, whose error is far below the distance of any result from a tie.
+// Tables of the integer square, root, logarithm and exponential: f(v) * 2^-scaleFactor rounded to
+// nearest, ties to even, saturated. They are computed when compiling, squares and roots in
+// integers, the others in double precision, whose error is far below the distance of any result
+// from a tie.
 #pragma once
 
 #include <array>
 #include <cstdint>
 #include <limits>
+
+#include "core/scale.h"
 
 namespace keli::math {
 
@@ -61,6 +64,18 @@ struct ByteTables {
     return all[static_cast<std::size_t>(sf - kLeastFactor)].data();
   }
 };
+
+constexpr ByteTables<1, 16> makeSqrTables() {
+  ByteTables<1, 16> tables;
+  for (int sf = 1; sf <= 16; ++sf) {
+    for (std::int64_t v = 0; v < 256; ++v) {
+      tables.all[static_cast<std::size_t>(sf - 1)][static_cast<std::size_t>(v)] =
+          scaled<std::uint8_t>(v * v, sf);
+    }
+  }
+  return tables;
+}
+inline constexpr ByteTables<1, 16> kSqrTables = makeSqrTables();
 
 // r + 1 where sqrt(v) * 2^-sf is above r + 1/2, or equal to it and r is odd: both sides squared,
 // times 4.
