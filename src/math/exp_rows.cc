@@ -17,6 +17,7 @@ namespace keli::HWY_NAMESPACE {
 // Results of integers: those of sixteen inputs; see ExpTable.
 template <class T>
 struct ExpOfIntegers : UnaryOp {
+  static constexpr std::size_t kVectorBytes = 64;
   math::ExpTable<T> table;
   HWY_INLINE T entry(int v) const {
     const int place = v - table.start;

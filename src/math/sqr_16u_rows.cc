@@ -14,7 +14,7 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
-// 1 to 15. Inputs from 256 * 2^(sf/2) on saturate, and have one result: none has a square of more
+// 2 to 15. Inputs from 256 * 2^(sf/2) on saturate, and have one result: none has a square of more
 // than 2^31 + 2^17, so that rounding does not leave the unsigned lanes.
 struct SquareDown : Square<Kel16u> {
   Kel16u most;
@@ -54,6 +54,7 @@ struct SquareFarDown : Square<Kel16u> {
 template <class Keep>
 KelStatus ownSqr16u(const Band<1>& b, int sf) {
   if (sf <= 0) return quietly<Kel16u, Keep>(b, SquareUp<Kel16u>(sf));
+  if (sf == 1) return quietly<Kel16u, Keep>(b, SquareHalf<Kel16u>());
   if (sf < 16) return quietly<Kel16u, Keep>(b, SquareDown(sf));
   return quietly<Kel16u, Keep>(b, SquareFarDown(sf));
 }

@@ -61,6 +61,7 @@ KelStatus ownSqr8u(const Band<1>& b, int sf) {
 template <class Keep>
 KelStatus ownSqr16s(const Band<1>& b, int sf) {
   if (sf <= 0) return quietly<Kel16s, Keep>(b, SquareUp<Kel16s>(sf));
+  if (sf == 1) return quietly<Kel16s, Keep>(b, SquareHalf<Kel16s>());
   return squareDown<Kel16s, Down16, Keep>(b, sf);
 }
 

@@ -1,4 +1,4 @@
-// Squares that are not scaled down: of the few inputs whose results do not saturate.
+// Squares that are not scaled down, of the few inputs whose results do not saturate, and halves.
 #if defined(KELI_MATH_SQUARE_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_MATH_SQUARE_INL_H_
 #undef KELI_MATH_SQUARE_INL_H_
@@ -10,6 +10,7 @@
 #include <limits>
 
 #include "core/scale.h"
+#include "core/wide-inl.h"
 #include "math/unary-inl.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -27,6 +28,7 @@ struct Square : UnaryOp {
 // A scale factor of 0 and less, of 16 bits: squares that do not saturate fit the lanes.
 template <class T>
 struct SquareUp : Square<T> {
+  static constexpr std::size_t kVectorBytes = 64;
   static constexpr T kMax = std::numeric_limits<T>::max();
   int count;
   T most;  // the largest input whose result does not saturate
@@ -53,6 +55,7 @@ struct SquareUp : Square<T> {
 
 // The same of 8 bits: the squares of inputs below 16 from a table.
 struct SquareUpOf8u : Square<Kel8u> {
+  static constexpr std::size_t kVectorBytes = 64;
   alignas(16) Kel8u results[16];
 
   HWY_INLINE explicit SquareUpOf8u(int sf) : Square<Kel8u>(sf) {
@@ -67,6 +70,21 @@ struct SquareUpOf8u : Square<Kel8u> {
   HWY_INLINE V vector(D d, const Table16<D>& table, V v) const {
     const V last = hn::Set(d, 15);
     return hn::Or(table(hn::Min(v, last)), hn::VecFromMask(d, v > last));
+  }
+};
+
+// A scale factor of 1, of 16 bits: half of a square, and 1 more where that is odd and lost a 1.
+template <class T>
+struct SquareHalf : Square<T> {
+  HWY_INLINE SquareHalf() : Square<T>(1) {}
+
+  template <class D, class V>
+  HWY_INLINE V vector(D d, Nothing, V v) const {
+    const auto one = hn::Set(WideTag<D>(), 1);
+    return narrow(d, mapWide(d, products(d, v, v), [&](auto square) KELI_LAMBDA {
+                    const auto half = hn::ShiftRight<1>(square);
+                    return half + hn::And(hn::And(half, square), one);
+                  }));
   }
 };
 
