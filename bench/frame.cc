@@ -69,21 +69,22 @@ Block Image::block() const {
   return {data(), rowBytes, step, rows};
 }
 
-// Integer samples take any value; floating ones lie in 0..256, so that no operation meets a NaN, an
-// infinity or a denormal number by accident.
-void Image::fillPattern(std::uint64_t seed, bool odd) const {
+// Integer samples take any value; floating ones lie in 0..most, so that no operation meets a NaN,
+// an infinity or a denormal number by accident.
+void Image::fillPattern(std::uint64_t seed, const Choices& choices) const {
   std::uint64_t state = seed * 0x9E3779B97F4A7C15 + 1;
   const std::size_t bytes = static_cast<std::size_t>(step_) * size_.height * planes();
   if (!isFloating(type_)) {
     for (std::size_t i = 0; i < bytes; i += 8) {
-      const std::uint64_t word = nextRandom(&state) | (odd ? 0x0101010101010101 : 0);
+      const std::uint64_t word = nextRandom(&state) | (choices.odd ? 0x0101010101010101 : 0);
       std::memcpy(data() + i, &word, 8);
     }
     return;
   }
   withComponent(type_, [&](auto component) {
     for (std::size_t i = 0; i < bytes; i += sizeof(component)) {
-      component = static_cast<decltype(component)>(nextRandom(&state) >> 40) / 65536;
+      component = static_cast<decltype(component)>(static_cast<double>(nextRandom(&state) >> 40) *
+                                                   choices.most / (1 << 24));
       std::memcpy(data() + i, &component, sizeof(component));
     }
   });
@@ -125,7 +126,7 @@ Frame::Frame(const registry::Function& function, Size size, const Choices& choic
 void Frame::resetDestination() const {
   if (destination_ == nullptr) return;
   if (function_.inPlace) {
-    destination_->fillPattern(9);
+    destination_->fillPattern(9, choices_);
   } else {
     destination_->fillBytes(0x5A);
   }
@@ -156,7 +157,7 @@ void Frame::addImage(const Argument& argument) {
     if (destination_ != nullptr) throw std::runtime_error("more than one written image");
     destination_ = std::move(image);
   } else {
-    image->fillPattern(1 + sources_.size(), choices_.odd);
+    image->fillPattern(1 + sources_.size(), choices_);
     sources_.push_back(std::move(image));
   }
 }

@@ -31,6 +31,14 @@ struct Block {
   std::size_t bytes() const { return rowBytes * rows; }
 };
 
+// What a row of the tables may choose about the arguments.
+struct Choices {
+  int scaleFactor = 0;
+  double constant = 17;  // of the first channel; that of channel k is (k + 1) times as large
+  bool odd = false;      // whether sources hold odd integers alone, for divisors
+  double most = 256;     // what floating samples of sources stay below
+};
+
 // A planar image is one allocation, one plane after another.
 class Image {
  public:
@@ -49,8 +57,7 @@ class Image {
   // The region as one block; one row if nothing separates the rows.
   Block block() const;
 
-  // odd: no integer sample is 0.
-  void fillPattern(std::uint64_t seed, bool odd = false) const;
+  void fillPattern(std::uint64_t seed, const Choices& choices = {}) const;
   void fillBytes(std::uint8_t value) const;
   void fillBlobs(std::uint64_t seed) const;  // about half of the pixels 255, the others 0
 
@@ -64,13 +71,6 @@ class Image {
   Size size_;
   int step_ = 0;
   std::unique_ptr<void, Free> memory_;
-};
-
-// What a row of the tables may choose about the arguments.
-struct Choices {
-  int scaleFactor = 0;
-  double constant = 17;  // of the first channel; that of channel k is (k + 1) times as large
-  bool odd = false;      // whether sources hold odd integers alone, for divisors
 };
 
 // The channel that functions of a single channel of interleaved pixels work on.

@@ -1251,6 +1251,263 @@ KELI_API KelStatus keliDivC_32fc_C1IR(Kel32fc value, Kel32fc* pSrcDst, int srcDs
 KELI_API KelStatus keliDivC_32fc_C3IR(const Kel32fc value[3], Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
 KELI_API KelStatus keliDivC_32fc_AC4IR(const Kel32fc value[3], Kel32fc* pSrcDst, int srcDstStep, KeliSize roiSize);
 
+/* ==== Absolute value, square, square root, logarithm, exponential ==== */
+
+/**
+ * Takes the absolute value of an image.
+ *
+ *     dst = |src|
+ *
+ * 16s: -32768 gives 32767. 32f: the sign bit is cleared, that of a NaN too.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliAbs_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAbs_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAbs_16s_C4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAbs_16s_C1IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAbs_16s_C3IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAbs_16s_C4IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAbs_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAbs_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAbs_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAbs_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAbs_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAbs_32f_C4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Takes the absolute value of three channels of four.
+ *
+ *     dst = |src|
+ *
+ * 16s: -32768 gives 32767. 32f: the sign bit is cleared, that of a NaN too. The fourth sample
+ * of every pixel is left as it was. Rows pass through a temporary one of 4 width samples;
+ * kelStatusNoMemory if it cannot be allocated, and nothing is written then.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliAbs_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAbs_16s_AC4IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliAbs_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliAbs_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Squares an image.
+ *
+ *     dst = src^2 * 2^-scaleFactor
+ *
+ * The exact square is scaled, rounded to the nearest integer with ties to even, and saturated.
+ * Any scale factor is valid: above 16 (8u), 32 (16u) or 30 (16s) every result is 0, and the
+ * source is not read. AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSqr_8u_C1RSfs(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_8u_C3RSfs(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_8u_C4RSfs(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_8u_AC4RSfs(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_8u_C1IRSfs(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_8u_C3IRSfs(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_8u_C4IRSfs(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_8u_AC4IRSfs(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16u_C1RSfs(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16u_C3RSfs(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16u_C4RSfs(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16u_AC4RSfs(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16u_C1IRSfs(Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16u_C3IRSfs(Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16u_C4IRSfs(Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16u_AC4IRSfs(Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16s_C1RSfs(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16s_C3RSfs(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16s_C4RSfs(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16s_AC4RSfs(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16s_C1IRSfs(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16s_C3IRSfs(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16s_C4IRSfs(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqr_16s_AC4IRSfs(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Squares a floating-point image.
+ *
+ *     dst = src^2
+ *
+ * One rounding to single precision, as IEEE 754 defines the product; no saturation. AC4 leaves
+ * the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSqr_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSqr_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSqr_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSqr_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSqr_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSqr_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSqr_32f_C4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSqr_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Takes the square root of an image of integers.
+ *
+ *     dst = sqrt(src) * 2^-scaleFactor
+ *
+ * The exact result is rounded to the nearest integer, ties to even, and saturated. Any scale
+ * factor is valid. A negative sample of 16s gives 0, without a warning. AC4 leaves the fourth
+ * sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSqrt_8u_C1RSfs(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_8u_C3RSfs(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_8u_AC4RSfs(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_8u_C1IRSfs(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_8u_C3IRSfs(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_8u_AC4IRSfs(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_16u_C1RSfs(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_16u_C3RSfs(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_16u_AC4RSfs(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_16u_C1IRSfs(Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_16u_C3IRSfs(Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_16u_AC4IRSfs(Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_16s_C1RSfs(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_16s_C3RSfs(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_16s_AC4RSfs(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_16s_C1IRSfs(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_16s_C3IRSfs(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliSqrt_16s_AC4IRSfs(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Takes the square root of a floating-point image.
+ *
+ *     dst = sqrt(src)
+ *
+ * Correctly rounded, as IEEE 754 defines the operation. A sample below 0 gives the NaN with the
+ * bits 0xFFC00000, and the call returns kelStatusNegativeSqrtWarning after writing all of the
+ * destination; -0 gives -0, and a NaN the NaN with the bits 0x7FC00000, without a warning. AC4
+ * leaves the fourth sample of every pixel as it was, and that of the source raises no warning.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSqrt_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSqrt_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliSqrt_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSqrt_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSqrt_32f_C4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliSqrt_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Takes the square root of a floating-point image whose rows are whole samples apart.
+ *
+ *     dst = sqrt(src)
+ *
+ * This function alone uses each step rounded down to a multiple of 4 bytes, so that one below 4
+ * counts as 0. Correctly rounded, as IEEE 754 defines the operation. A sample below 0 gives the
+ * NaN with the bits 0xFFC00000, and the call returns kelStatusNegativeSqrtWarning after writing
+ * all of the destination; -0 gives -0, and a NaN the NaN with the bits 0x7FC00000, without a
+ * warning.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSqrt_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Takes the natural logarithm of an image of bytes.
+ *
+ *     dst = ln(src) * 2^-scaleFactor
+ *
+ * The exact result is rounded to the nearest integer, ties to even, and saturated. Any scale
+ * factor is valid. A sample of 0 gives 0, and the call returns kelStatusZeroLogWarning after
+ * writing all of the destination.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliLn_8u_C1RSfs(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliLn_8u_C3RSfs(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliLn_8u_C1IRSfs(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliLn_8u_C3IRSfs(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Takes the natural logarithm of an image of signed integers.
+ *
+ *     dst = ln(src) * 2^-scaleFactor
+ *
+ * The exact result is rounded to the nearest integer, ties to even, and saturated. Any scale
+ * factor is valid. Samples of 0 and below give 0. The call then returns, after writing all of
+ * the destination, the warning of the first row that has one: kelStatusNegativeLogWarning if a
+ * sample of it is below 0, else kelStatusZeroLogWarning.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliLn_16s_C1RSfs(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliLn_16s_C3RSfs(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliLn_16s_C1IRSfs(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliLn_16s_C3IRSfs(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Takes the natural logarithm of a floating-point image.
+ *
+ *     dst = ln(src)
+ *
+ * Within 1 ulp (unit in the last place), the same bits on every processor. A sample of 0 or -0
+ * gives -infinity, one below 0 the NaN with the bits 0xFFC00000. The call then returns, after
+ * writing all of the destination, the warning of the first row that has one:
+ * kelStatusNegativeLogWarning if a sample of it is below 0, else kelStatusZeroLogWarning.
+ * +infinity gives +infinity and a NaN the NaN with the bits 0x7FC00000, without a warning.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliLn_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLn_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLn_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliLn_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Takes the exponential of an image of integers.
+ *
+ *     dst = e^src * 2^-scaleFactor
+ *
+ * The exact result is rounded to the nearest integer, ties to even, and saturated. Any scale
+ * factor is valid.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliExp_8u_C1RSfs(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliExp_8u_C3RSfs(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliExp_8u_C1IRSfs(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliExp_8u_C3IRSfs(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliExp_16s_C1RSfs(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliExp_16s_C3RSfs(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliExp_16s_C1IRSfs(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+KELI_API KelStatus keliExp_16s_C3IRSfs(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, int scaleFactor);
+
+/**
+ * Takes the exponential of a floating-point image.
+ *
+ *     dst = e^src
+ *
+ * Within 1 ulp (unit in the last place), the same bits on every processor: +infinity beyond the
+ * largest number, denormal numbers and then 0 below the smallest normal one, all without a
+ * warning. A NaN gives the NaN with the bits 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliExp_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliExp_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliExp_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliExp_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
 /* ==== Bitwise operations and shifts ==== */
 
 /**

@@ -233,7 +233,7 @@ template <class Operation, class T, class How>
 struct Scaled {
   static constexpr std::size_t kPeriod = 1;
   static constexpr std::size_t kUnroll = 4;
-  static constexpr bool kBoundByInstructions = How::kLong;
+  static constexpr std::size_t kVectorBytes = How::kLong ? 64 : 32;
   int scaleFactor;
 
   template <class D>

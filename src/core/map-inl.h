@@ -11,7 +11,8 @@
 //
 // Rows of at least a vector: the last vector is computed first and stored last, which is right in
 // place too. Shorter rows: the same with vectors of 16, 8 and 4 bytes, then samples. Vectors are of
-// 32 bytes at most: longer ones measured slower, in the caches and beyond.
+// 32 bytes at most: longer ones measured slower, in the caches and beyond. An operation whose
+// computing outweighs that takes longer ones by a constant kVectorBytes.
 #if defined(KELI_CORE_MAP_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_CORE_MAP_INL_H_
 #undef KELI_CORE_MAP_INL_H_
@@ -65,11 +66,12 @@ struct KeepOthers {
 
 namespace map {
 
-// Vectors of 64 bytes pay where instructions and not memory bound an operation: it says so.
+// The longest vectors that an operation asks for: 64 bytes pay where instructions and not memory
+// bound it.
 template <class Op, class = void>
-constexpr bool kLongVectors = false;
+constexpr std::size_t kMostBytes = 32;
 template <class Op>
-constexpr bool kLongVectors<Op, std::enable_if_t<Op::kBoundByInstructions>> = true;
+constexpr std::size_t kMostBytes<Op, std::void_t<decltype(Op::kVectorBytes)>> = Op::kVectorBytes;
 
 constexpr std::size_t cycle(std::size_t a, std::size_t b) { return a == 1 ? b : a; }
 
@@ -167,12 +169,12 @@ struct Row {
     if constexpr (kScalarTarget) {
       samples(op, 0, n, dst, src...);
     } else {
-      constexpr std::size_t kVectorBytes = std::min(HWY_MAX_BYTES, kLongVectors<Op> ? 64 : 32);
+      constexpr std::size_t kVectorBytes = std::min<std::size_t>(HWY_MAX_BYTES, kMostBytes<Op>);
       using D = hn::CappedTag<TD, kVectorBytes / kWidest>;
       constexpr std::size_t kN = hn::MaxLanes(D());
       // Narrow results fill no lines; two vectors are one, or half of one on 16-byte targets.
       constexpr bool kWhole = kN * sizeof(TD) == kVectorBytes;
-      constexpr std::size_t kLine = std::min<std::size_t>(64, 2 * kVectorBytes);
+      constexpr std::size_t kLine = std::min<std::size_t>(2 * kVectorBytes, 64);
       constexpr std::size_t kLong = 1024 / sizeof(TD);
       const std::size_t misaligned = reinterpret_cast<std::uintptr_t>(dst) % kLine;
       std::size_t head = 0;
@@ -204,12 +206,16 @@ HWY_INLINE void mapRows(const Band<0>& b, const Op& op) {
   if (b.streams) hwy::FlushStream();
 }
 
+// One row of the band; where b.streams, the stores of all rows are still to be flushed.
+template <class TS, class TD, class Keep = KeepNone, class Op>
+HWY_INLINE void mapRow(const Band<1>& b, std::size_t y, const Op& op) {
+  map::Row<Op, Keep, TD, TS>::run(op, b.streams, b.n - Keep::kTrim, b.template dstRow<TD>(y),
+                                  b.template srcRow<TS>(0, y));
+}
+
 template <class TS, class TD, class Keep = KeepNone, class Op>
 HWY_INLINE void mapRows(const Band<1>& b, const Op& op) {
-  for (std::size_t y = 0; y < b.rows; ++y) {
-    map::Row<Op, Keep, TD, TS>::run(op, b.streams, b.n - Keep::kTrim, b.template dstRow<TD>(y),
-                                    b.template srcRow<TS>(0, y));
-  }
+  for (std::size_t y = 0; y < b.rows; ++y) mapRow<TS, TD, Keep>(b, y, op);
   if (b.streams) hwy::FlushStream();
 }
 

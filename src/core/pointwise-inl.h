@@ -17,10 +17,9 @@ template <class Op, class T, std::size_t kCycle>
 struct WithConstant {
   static constexpr std::size_t kPeriod = kCycle;
   static constexpr std::size_t kUnroll = kCycle % 3 == 0 ? 6 : 4;
+  static constexpr std::size_t kVectorBytes = map::kMostBytes<Op>;
   static constexpr std::size_t kLanes =
-      kScalarTarget ? 1 : std::min(HWY_MAX_BYTES, map::kLongVectors<Op> ? 64 : 32) / sizeof(T);
-
-  static constexpr bool kBoundByInstructions = map::kLongVectors<Op>;
+      kScalarTarget ? 1 : std::min<std::size_t>(HWY_MAX_BYTES, kVectorBytes) / sizeof(T);
 
   Op op;
   T constants[kLanes + kCycle];  // repeated, so that a vector can begin at any of them

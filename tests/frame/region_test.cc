@@ -140,10 +140,9 @@ const Function* outOfPlace(const Function& f) {
 TEST(Region, InPlaceEqualsOutOfPlace) {
   std::size_t count = 0;
   forEachImageFunction([&](const Function& f) {
-    if (!f.inPlace) return;
+    const Function* const plain = f.inPlace ? outOfPlace(f) : nullptr;
+    if (plain == nullptr) return;  // a few functions work in place alone
     ++count;
-    const Function* const plain = outOfPlace(f);
-    ASSERT_NE(plain, nullptr) << f.name;
     for (const std::int64_t target : testedTargets()) {
       const UseTarget use(target);
       for (const int width : {1, 2, 7, 16, 31, 45, 64, 97, 257}) {
@@ -183,7 +182,7 @@ TEST(Region, InPlaceEqualsOutOfPlace) {
       }
     }
   });
-  ASSERT_GT(count, 0u);
+  ASSERT_GT(count, 60u);
 }
 
 // The smallest region that is worth seven threads, so that every team runs.

@@ -97,6 +97,11 @@ ArenaPool& pool() {
   return *arenas;
 }
 
+// Functions that use steps rounded down to whole samples.
+bool stepsByWholeSamples(const registry::Function& function) {
+  return std::string(function.name) == "keliSqrt_32f_C1R";
+}
+
 }  // namespace
 
 void fillSamples(Type type, std::uint8_t* p, std::size_t count, Random& random) {
@@ -218,6 +223,7 @@ void TestCall::addImage(std::size_t i, const Geometry& g, Random& random) {
                    : sample * static_cast<std::size_t>(usedChannels(a.layout));
   image.rowBytes = channel ? (width - 1) * image.pixel + sample : width * image.pixel;
   image.step = width * image.pixel + static_cast<std::size_t>(g.padding);
+  if (stepsByWholeSamples(function)) image.step -= image.step % sample;
   const int planes = isPlanar(a.layout) ? usedChannels(a.layout) : 1;
   for (int k = 0; k < planes; ++k) {
     const std::size_t height = static_cast<std::size_t>(g.height);
