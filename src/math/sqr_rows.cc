@@ -1,5 +1,5 @@
-// Row kernels of Sqr: src * src, of 8u, 16s and 32f; integers scaled down use
-// the kernels of products.
+// Row kernels of Sqr: src * src, of 8u, 16s and 32f; integers scaled down use the kernels of
+// products.
 #define KELI_ENABLE_AVX512
 #include "core/simd_config.h"
 #include "core/target.h"
@@ -22,6 +22,7 @@ template <class Op>
 struct Twice {
   static constexpr std::size_t kPeriod = 1;
   static constexpr std::size_t kUnroll = 4;
+  static constexpr std::size_t kVectorBytes = map::kMostBytes<Op>;
   Op op;
 
   template <class D>
@@ -53,8 +54,8 @@ KelStatus ownSqr8u(const Band<1>& b, int sf) {
     op.table = math::kSqrTables(sf);
     return quietly<Kel8u, Keep>(b, op);
   } else {
-    if (sf == 1) return squareDown<Kel8u, Half, Keep>(b, sf);
-    return squareDown<Kel8u, Down8, Keep>(b, sf);
+    if (sf == 1) return squareDown<Kel8u, ByOne, Keep>(b, sf);
+    return squareDown<Kel8u, Down, Keep>(b, sf);
   }
 }
 
@@ -62,7 +63,7 @@ template <class Keep>
 KelStatus ownSqr16s(const Band<1>& b, int sf) {
   if (sf <= 0) return quietly<Kel16s, Keep>(b, SquareUp<Kel16s>(sf));
   if (sf == 1) return quietly<Kel16s, Keep>(b, SquareHalf<Kel16s>());
-  return squareDown<Kel16s, Down16, Keep>(b, sf);
+  return squareDown<Kel16s, Down, Keep>(b, sf);
 }
 
 struct SqrReal : UnaryOp {
