@@ -6,7 +6,7 @@ namespace keli::bench {
 namespace {
 
 // Images of exponents that neither overflow nor underflow.
-constexpr Choices kExponents = {0, 17, 16};
+constexpr Choices kExponents = {0, 17, false, 16};
 
 const AddFamily kMath({"math",
                        "Absolute value, square, square root, logarithm, exponential",
