@@ -42,6 +42,24 @@ TEST(Limits, MovesCopyTheRegionAndNothingElse) {
   }
 }
 
+// They join the bits of both, as a function does that is measured by them.
+TEST(Limits, MovesOfTwoSourcesReadBoth) {
+  for (const char* name : {"keliOr_8u_C1R", "keliOr_16u_C3R", "keliOr_8u_C1IR"}) {
+    for (const Size size : kSizes) {
+      const Frame frame(function(name), size, {});
+      frame.resetDestination();
+      frame.call();
+      const std::vector<std::uint8_t> expected = allBytes(frame.destination());
+      for (const LimitVariant& v : limitVariants(Limit::kMove, frame)) {
+        frame.resetDestination();
+        v.work();
+        EXPECT_EQ(allBytes(frame.destination()), expected)
+            << v.name << " " << name << " " << nameOf(size);
+      }
+    }
+  }
+}
+
 TEST(Limits, FillsWriteTheRegionAndNothingElse) {
   for (const Size size : kSizes) {
     const Frame frame(function("keliSet_8u_C3R"), size, {});

@@ -86,6 +86,7 @@ class Frame {
   const Image& destination() const { return *destination_; }
   const Image& mask() const { return *mask_; }
   bool hasSource() const { return !sources_.empty(); }
+  bool inPlace() const { return function_.inPlace; }
   std::size_t sourceCount() const { return sources_.size(); }
   bool hasDestination() const { return destination_ != nullptr; }
   int scaleFactor() const { return choices_.scaleFactor; }

@@ -10,7 +10,8 @@ namespace keli::bench {
 
 // What a function is bound by at best.
 enum class Limit {
-  kMove,  // reading the source and writing the destination; without a source, rewriting it in place
+  kMove,  // reading the sources and writing the destination; without a source, rewriting it in
+          // place
   kFill,  // writing the destination
   kRead,  // reading the source
 };

@@ -37,16 +37,17 @@ HEAD = """\
 **limit** is the fraction of the limit's speed that a function reaches. The limit is the fastest way
 found, in the same run and on the same images, of moving as many bytes: for functions with a source,
 of copying the larger of source and destination (memcpy at once and in pieces of 4 KiB, loops of
-32-byte loads and stores, one or four in a round, plain and streaming); for functions that rewrite a
-part of an image without a source, of rewriting it in place with those loops; for fills, of writing
-the destination (memset, loops of stores); for functions that only read, of reading the source. A
+32-byte loads and stores, one or four in a round, plain and streaming); for functions of two images,
+of reading both and writing their bits joined with such loops; for functions that rewrite a part of
+an image without a source, of rewriting it in place with those loops; for fills, of writing the
+destination (memset, loops of stores); for functions that only read, of reading the source. A
 fraction can exceed 1: the loops are not the best possible code, and a function may touch fewer
 bytes than its images hold.
 
 **peer** is the time of the best of the other libraries' equivalents divided by the function's time:
 above 1 the function is faster. Before it is timed, every peer's result is compared with the
 function's. "alpha set" and "alpha copied" mark peers that also write the fourth sample, which the
-function leaves alone.
+function leaves alone. A number after a function's name is its scale factor.
 
 In every row all contestants take turns over many rounds, each measured over at least 20
 microseconds, and the best time of each counts. Images come from the library's allocators; masks
