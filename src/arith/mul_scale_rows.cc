@@ -19,6 +19,7 @@ template <class T>
 struct MulMax {
   static constexpr std::size_t kPeriod = 1;
   static constexpr std::size_t kUnroll = 4;
+  static constexpr std::size_t kVectorBytes = sizeof(T) == 1 ? 64 : 32;
   static constexpr int kBits = 8 * sizeof(T);
   template <class D>
   HWY_INLINE Nothing at(D, std::size_t) const {

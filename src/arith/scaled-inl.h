@@ -58,7 +58,7 @@ HWY_INLINE V saturated(Mul, D d, V a, V b) {
 template <class D>
 using Unsigned = hn::RebindToUnsigned<D>;
 
-// floor(v / 2); its last bit of rest is what that lost.
+// floor(v / 2), and 1 where that lost one half.
 template <class D>
 struct HalfOf {
   hn::Vec<Unsigned<D>> floor;
@@ -84,26 +84,40 @@ HWY_INLINE hn::Vec<Unsigned<D>> biased(D, V v, bool complement = false) {
 }
 
 template <class D, class V>
-HWY_INLINE HalfOf<D> half(Add, D d, V a, V b) {
+HWY_INLINE hn::Vec<Unsigned<D>> halfLost(D, V a, V b) {
   const Unsigned<D> du;
-  const auto rest = hn::BitCast(du, hn::Xor(a, b));
-  const auto up = hn::AverageRound(biased(d, a), biased(d, b));
-  return {up - hn::And(rest, hn::Set(du, 1)), rest};
+  return hn::And(hn::BitCast(du, hn::Xor(a, b)), hn::Set(du, 1));
+}
+
+template <class D, class V>
+HWY_INLINE HalfOf<D> half(Add, D d, V a, V b) {
+  const auto rest = halfLost(d, a, b);
+  return {hn::AverageRound(biased(d, a), biased(d, b)) - rest, rest};
 }
 template <class D, class V>
 HWY_INLINE HalfOf<D> half(Sub, D d, V a, V b) {
   // b + ~a + 1 is b - a, and the average adds the 1.
-  return {hn::AverageRound(biased(d, b), biased(d, a, true)),
-          hn::BitCast(Unsigned<D>(), hn::Xor(a, b))};
+  return {hn::AverageRound(biased(d, b), biased(d, a, true)), halfLost(d, a, b)};
 }
 
-// floor(v / 2), its last bit set where that lost one: below the bit that decides a tie it only
-// tells that there is something.
+// The half rounded to the nearest integer, ties to even.
+template <class D, class V>
+HWY_INLINE hn::Vec<Unsigned<D>> halfToEven(Add, D d, V a, V b) {
+  const auto up = hn::AverageRound(biased(d, a), biased(d, b));
+  return up - hn::And(up, halfLost(d, a, b));
+}
+template <class D, class V>
+HWY_INLINE hn::Vec<Unsigned<D>> halfToEven(Sub, D d, V a, V b) {
+  const HalfOf<D> h = half(Sub(), d, a, b);
+  return hn::SaturatedAdd(h.floor, hn::And(h.floor, h.rest));  // the largest saturates
+}
+
+// The half rounded to the odd integer next to it: below the bit that decides a tie its last bit
+// only tells that there is something.
 template <class Operation, class D, class V>
 HWY_INLINE hn::Vec<Unsigned<D>> halfToOdd(Operation operation, D d, V a, V b) {
-  const Unsigned<D> du;
   const HalfOf<D> h = half(operation, d, a, b);
-  return hn::Or(h.floor, hn::And(h.rest, hn::Set(du, 1)));
+  return hn::Or(h.floor, h.rest);
 }
 
 // ---- By scale factor
@@ -122,7 +136,7 @@ struct Unscaled {  // 0
 };
 
 struct Up {  // 0 and less
-  static constexpr bool kLong = false;
+  static constexpr bool kLong = true;
   template <class Operation, class D>
   static HWY_INLINE ScaleUp<D> at(Operation, D d, int scaleFactor) {
     return ScaleUp<D>::make(d, scaleFactor);
@@ -134,7 +148,7 @@ struct Up {  // 0 and less
 };
 
 struct ByOne {  // 1
-  static constexpr bool kLong = false;
+  static constexpr bool kLong = true;
   template <class Operation, class D>
   static HWY_INLINE Nothing at(Operation, D, int) {
     return {};
@@ -151,10 +165,7 @@ struct ByOne {  // 1
       return roundHalf(d, hn::SaturatedSub(b, a));  // no difference below 0 gives more than 0
     } else {
       const Unsigned<D> du;
-      const HalfOf<D> h = half(operation, d, a, b);
-      const auto up = hn::And(hn::And(h.floor, h.rest), hn::Set(du, 1));
-      // The largest difference of 16s saturates.
-      return hn::BitCast(d, hn::SaturatedAdd(h.floor, up) - hn::Set(du, biasOf<D>(1)));
+      return hn::BitCast(d, halfToEven(operation, d, a, b) - hn::Set(du, biasOf<D>(1)));
     }
   }
 };

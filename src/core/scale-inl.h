@@ -40,18 +40,24 @@ struct ShiftRightBy {
 // Unsigned lanes of 8 or 16 bits scaled by 2 and more.
 template <class D>
 struct RoundUnsigned {
-  ShiftRightBy<D> all;
-  ShiftRightBy<D> rest;
+  using D16 = hn::Repartition<std::uint16_t, D>;
+  hn::Vec<D16> toOdd;  // brings the quotient's last bit to its place
+  hn::Vec<D> odd;      // that bit, or none where the quotient is 0
   hn::Vec<D> bias;
-  hn::Vec<D> one;
+  ShiftRightBy<D> rest;
 
   static HWY_INLINE RoundUnsigned make(D d, int scaleFactor) {
-    return {ShiftRightBy<D>::make(d, scaleFactor), ShiftRightBy<D>::make(d, scaleFactor - 1),
-            hn::Set(d, static_cast<hn::TFromD<D>>((1 << (scaleFactor - 1)) - 2)), hn::Set(d, 1)};
+    using T = hn::TFromD<D>;
+    const ShiftRightBy<D> all = ShiftRightBy<D>::make(d, scaleFactor);
+    return {all.factor, hn::Set(d, scaleFactor < static_cast<int>(8 * sizeof(T)) ? T{1} : T{0}),
+            hn::Set(d, static_cast<T>((1 << (scaleFactor - 1)) - 2)),
+            ShiftRightBy<D>::make(d, scaleFactor - 1)};
   }
 
   HWY_INLINE hn::Vec<D> operator()(hn::Vec<D> v) const {
-    return rest(hn::AverageRound(v, hn::Or(hn::And(all(v), one), bias)));
+    const D d;
+    const auto quotient = hn::BitCast(d, hn::MulHigh(hn::BitCast(D16(), v), toOdd));
+    return rest(hn::AverageRound(v, hn::Or(hn::And(quotient, odd), bias)));
   }
 };
 
