@@ -88,11 +88,11 @@ panel "order 2,0,1, alpha kept" keliSwapChannels_8u_AC4R coffee.png --dstOrder 2
 
 endSheet
 
-# The half-bright picture is one that a difference or a quotient can be seen in.
+# A picture of half the brightness, for functions that brighten.
 convert coffee.png -evaluate multiply 0.5 dark.png
 photograph coffee.png
 photograph chelsea.png
-photograph disc.png
+panels+=(-label "disc.png\nthe disc" disc.png)
 panel "half of the sum" keliAdd_8u_C3RSfs coffee.png chelsea.png --scaleFactor 1
 panel "a constant added, saturated" keliAddC_8u_C3RSfs coffee.png --value 90,0,0 --scaleFactor 0
 panel "chelsea.png minus coffee.png" keliSub_8u_C3RSfs coffee.png chelsea.png --scaleFactor 0
