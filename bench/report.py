@@ -17,12 +17,14 @@ CHART_SIZE = "640x480"
 
 # What the chart shows, in this order; functions that the run lacks are left out.
 CHARTED = [
-    "keliCopy_8u_C1R", "keliCopy_8u_C3R", "keliCopy_8u_AC4R", "keliCopy_8u_C1MR",
-    "keliCopy_8u_C3MR", "keliCopy_32f_C1MR", "keliCopy_8u_C3C1R", "keliCopy_8u_C1C3R",
-    "keliCopy_8u_AC4C3R", "keliCopy_8u_C3AC4R", "keliCopy_8u_C3P3R", "keliCopy_8u_P3C3R",
-    "keliCopy_16s_C4P4R", "keliCopy_32f_P4C4R", "keliSet_8u_C1R", "keliSet_8u_C3R",
-    "keliSet_32f_C4R", "keliSet_8u_C3MR", "keliSet_32f_C1MR", "keliSwapChannels_8u_C3R",
-    "keliSwapChannels_8u_C3IR", "keliSwapChannels_16u_C3R", "keliSwapChannels_32f_AC4R",
+    "keliCopy_8u_C1R", "keliCopy_8u_C3MR", "keliCopy_8u_C3C1R", "keliCopy_8u_C3AC4R",
+    "keliCopy_8u_C3P3R", "keliCopy_16s_C4P4R", "keliSet_8u_C3R", "keliSet_8u_C3MR",
+    "keliSwapChannels_8u_C3R", "keliSwapChannels_16u_C3R",
+    "keliAdd_8u_C1RSfs:0", "keliAdd_8u_C1RSfs:3", "keliSub_16s_C1RSfs:6", "keliMul_8u_C1RSfs:8",
+    "keliMulC_8u_C3RSfs:3", "keliMulScale_8u_C1R", "keliMul_32fc_C1R", "keliDiv_8u_C1RSfs:0",
+    "keliDiv_32f_C1R", "keliAnd_8u_C1R", "keliRShiftC_16s_C1R", "keliAbs_16s_C1R",
+    "keliSqr_8u_C1RSfs:0", "keliSqrt_8u_C1RSfs:0", "keliSqrt_32f_C1R", "keliLn_32f_C1R",
+    "keliExp_32f_C1R",
 ]
 
 HEAD = """\
