@@ -63,24 +63,20 @@ struct LookUpReciprocals {
 
   template <class D>
   struct Tables {
-    hn::Vec<D> low[4], high[4];  // the bytes of M
+    Table256<D> low, high;  // the bytes of M
   };
 
   template <class D>
-  HWY_INLINE Tables<D> at(D d, std::size_t) const {
-    Tables<D> t;
-    unrolled<4>([&](auto i) KELI_LAMBDA {
-      t.low[i] = hn::LoadU(d, division::kMultipliers.low + 64 * i);
-      t.high[i] = hn::LoadU(d, division::kMultipliers.high + 64 * i);
-    });
-    return t;
+  HWY_INLINE Tables<D> at(D, std::size_t) const {
+    return {Table256<D>::make(division::kMultipliers.low),
+            Table256<D>::make(division::kMultipliers.high)};
   }
   template <class D, class V>
   HWY_INLINE V vector(D d, const Tables<D>& t, V a, V b) const {
     const hn::Repartition<std::uint16_t, D> dw;
     const auto upper = hn::Set(dw, 0xFF00);
-    const auto low = hn::BitCast(dw, lookUp(d, t.low, a));
-    const auto high = hn::BitCast(dw, lookUp(d, t.high, a));
+    const auto low = hn::BitCast(dw, t.low(a));
+    const auto high = hn::BitCast(dw, t.high(a));
     const auto wide = hn::BitCast(dw, b);
     // The bytes at even places, then those at odd ones.
     const auto even = rounded(dw, hn::Or(hn::AndNot(upper, low), hn::ShiftLeft<8>(high)),
@@ -101,14 +97,6 @@ struct LookUpReciprocals {
     const V y = hn::MulHigh(dividend, m);
     const V odd = hn::And(hn::ShiftRight<9>(y), hn::Set(dw, 1));
     return hn::AverageRound(y, odd + hn::Set(dw, 255));
-  }
-
-  template <class D, class V>
-  static HWY_INLINE V lookUp(D d, const V (&table)[4], V k) {
-    const auto second = hn::MaskFromVec(k), odd = hn::MaskFromVec(k + k);  // by the upper bits
-    const V first = hn::IfThenElse(odd, permuteBytes(d, table[1], k), permuteBytes(d, table[0], k));
-    const V other = hn::IfThenElse(odd, permuteBytes(d, table[3], k), permuteBytes(d, table[2], k));
-    return hn::IfThenElse(second, other, first);
   }
 
   HWY_INLINE Kel8u scalar(std::size_t, Kel8u a, Kel8u b) const {
