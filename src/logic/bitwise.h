@@ -64,7 +64,7 @@ KelStatus bitwiseConstant(const T* src, int srcStep, Value value, T* dst, int ds
     } else {
       constexpr std::size_t kUsed = usedChannels(kLayout);
       const std::size_t k = i % pixelSamples(kLayout);
-      samples[i] = value[k < kUsed ? k : 0];
+      std::memcpy(samples + i, value + (k < kUsed ? k : 0), sizeof(T));
     }
   }
   BitConstant constant;

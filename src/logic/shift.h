@@ -1,6 +1,7 @@
 // Frame of LShiftC and RShiftC. Arguments have been checked.
 #pragma once
 
+#include <cstring>
 #include <type_traits>
 
 #include "core/walk.h"
@@ -22,7 +23,8 @@ KelStatus shift(const ShiftKernels& kernels, bool signStays, const T* src, int s
       return data::set<T, kLayout>(T{0}, dst, dstStep, size);
     for (std::uint32_t& count : counts) count = value;
   } else {
-    for (int k = 0; k < 4; ++k) counts[k] = value[k < usedChannels(kLayout) ? k : 0];
+    for (int k = 0; k < 4; ++k)
+      std::memcpy(counts + k, value + (k < usedChannels(kLayout) ? k : 0), sizeof(counts[k]));
   }
   const auto kernel = kLayout == Layout::C1   ? kernels.c1
                       : kLayout == Layout::C3 ? kernels.c3
