@@ -22,20 +22,47 @@ using arith::Add;
 using arith::Mul;
 using arith::Sub;
 
-// ---- Exact and saturated results
-// -----------------------------------------------------------------
+// ---- Exact and saturated results ------------------------------------------------------------
 
 constexpr std::int64_t exact(Add, std::int64_t a, std::int64_t b) { return a + b; }
 constexpr std::int64_t exact(Sub, std::int64_t a, std::int64_t b) { return b - a; }
 constexpr std::int64_t exact(Mul, std::int64_t a, std::int64_t b) { return a * b; }
 
+// Where the wrapped result overflows, its sign is not the one that the operands' signs give.
 template <class D, class V>
-HWY_INLINE V saturated(Add, D, V a, V b) {
-  return hn::SaturatedAdd(a, b);
+HWY_INLINE V overflows(Add, D, V a, V b, V sum) {
+  return hn::And(hn::Xor(sum, a), hn::Xor(sum, b));
 }
 template <class D, class V>
-HWY_INLINE V saturated(Sub, D, V a, V b) {
-  return hn::SaturatedSub(b, a);
+HWY_INLINE V overflows(Sub, D, V a, V b, V difference) {
+  return hn::And(hn::Xor(b, a), hn::Xor(b, difference));
+}
+
+// Of 32-bit lanes, for which there are no saturating instructions.
+template <class Operation, class D, class V>
+HWY_INLINE V saturated32(Operation operation, D d, V a, V b) {
+  const V wrapped = std::is_same_v<Operation, Add> ? a + b : b - a;
+  const V limit =
+      hn::Xor(hn::ShiftRight<31>(wrapped), hn::Set(d, std::numeric_limits<Kel32s>::min()));
+  return hn::IfVecThenElse(hn::BroadcastSignBit(overflows(operation, d, a, b, wrapped)), limit,
+                           wrapped);
+}
+
+template <class D, class V>
+HWY_INLINE V saturated(Add operation, D d, V a, V b) {
+  if constexpr (sizeof(hn::TFromD<D>) == 4) {
+    return saturated32(operation, d, a, b);
+  } else {
+    return hn::SaturatedAdd(a, b);
+  }
+}
+template <class D, class V>
+HWY_INLINE V saturated(Sub operation, D d, V a, V b) {
+  if constexpr (sizeof(hn::TFromD<D>) == 4) {
+    return saturated32(operation, d, a, b);
+  } else {
+    return hn::SaturatedSub(b, a);
+  }
 }
 template <class D, class V>
 HWY_INLINE V saturated(Mul, D d, V a, V b) {
@@ -48,8 +75,7 @@ HWY_INLINE V saturated(Mul, D d, V a, V b) {
   }
 }
 
-// ---- Halves of sums and differences
-// --------------------------------------------------------------
+// ---- Halves of sums and differences ---------------------------------------------------------
 //
 // In lanes of the operands' own width. Signed ones are biased by 2^15 each, which adds 2^16 to the
 // sum: an even number of units of the result for every scale factor below 16, so ties still go to
@@ -120,8 +146,7 @@ HWY_INLINE hn::Vec<Unsigned<D>> halfToOdd(Operation operation, D d, V a, V b) {
   return hn::Or(h.floor, h.rest);
 }
 
-// ---- By scale factor
-// -----------------------------------------------------------------------------
+// ---- By scale factor ------------------------------------------------------------------------
 
 struct Unscaled {  // 0
   static constexpr bool kLong = false;
@@ -237,8 +262,7 @@ struct BySixteen {  // 16, of sums and differences of 16s: 1 above 2^15, -1 belo
   }
 };
 
-// ---- Operations for the drivers
-// ------------------------------------------------------------------
+// ---- Operations for the drivers -------------------------------------------------------------
 
 template <class Operation, class T, class How>
 struct Scaled {

@@ -9,6 +9,7 @@
 #define HWY_TARGET_INCLUDE "complex/float_rows.cc"
 #include <hwy/foreach_target.h>
 //
+#include "arith/floating-inl.h"
 #include "complex/floating-inl.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -17,26 +18,6 @@ namespace keli::HWY_NAMESPACE {
 using arith::Add;
 using arith::Mul;
 using arith::Sub;
-
-template <class Operation>
-struct FloatingSum {
-  static constexpr std::size_t kPeriod = 1;
-  static constexpr std::size_t kUnroll = 4;
-
-  template <class V>
-  static HWY_INLINE V result(V a, V b) {
-    return std::is_same_v<Operation, Add> ? a + b : b - a;
-  }
-  template <class D>
-  HWY_INLINE Nothing at(D, std::size_t) const {
-    return {};
-  }
-  template <class D, class V>
-  HWY_INLINE V vector(D, Nothing, V a, V b) const {
-    return result(a, b);
-  }
-  HWY_INLINE float scalar(std::size_t, float a, float b) const { return result(a, b); }
-};
 
 struct FloatingProduct {
   static constexpr std::size_t kPeriod = 1;
@@ -69,7 +50,7 @@ struct Only {
 };
 
 template <class Operation>
-using FloatingSums = Only<PartByPart<Kel32fc, FloatingSum<Operation>>>;
+using FloatingSums = Only<PartByPart<Kel32fc, Floating<Operation>>>;
 
 constexpr arith::TwoImages kAdd = kTwoImages<Kel32fc, FloatingSums<Add>>;
 constexpr arith::TwoImages kSub = kTwoImages<Kel32fc, FloatingSums<Sub>>;

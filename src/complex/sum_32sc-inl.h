@@ -32,49 +32,6 @@ HWY_INLINE Halved<D> halved(Sub, D, V a, V b) {
   return {hn::Or(inverted, b) - hn::ShiftRight<1>(hn::Xor(inverted, b)), hn::Xor(a, b)};
 }
 
-// Where the wrapped sum overflows, it has another sign than both operands.
-template <class D, class V>
-HWY_INLINE V overflows(Add, D, V a, V b, V sum) {
-  return hn::And(hn::Xor(sum, a), hn::Xor(sum, b));
-}
-template <class D, class V>
-HWY_INLINE V overflows(Sub, D, V a, V b, V difference) {
-  return hn::And(hn::Xor(b, a), hn::Xor(b, difference));
-}
-
-template <class Operation, class D, class V>
-HWY_INLINE V saturatedSum(Operation operation, D d, V a, V b) {
-  const V wrapped = std::is_same_v<Operation, Add> ? a + b : b - a;
-  const V limit =
-      hn::Xor(hn::ShiftRight<31>(wrapped), hn::Set(d, std::numeric_limits<Kel32s>::min()));
-  return hn::IfVecThenElse(hn::BroadcastSignBit(overflows(operation, d, a, b, wrapped)), limit,
-                           wrapped);
-}
-
-struct Unscaled32 {  // 0
-  static constexpr bool kLong = false;
-  template <class Operation, class D>
-  static HWY_INLINE Nothing at(Operation, D, int) {
-    return {};
-  }
-  template <class Operation, class D, class V>
-  static HWY_INLINE V apply(Operation operation, D d, Nothing, V a, V b) {
-    return saturatedSum(operation, d, a, b);
-  }
-};
-
-struct Up32 {  // 0 and less
-  static constexpr bool kLong = false;
-  template <class Operation, class D>
-  static HWY_INLINE ScaleUp<D> at(Operation, D d, int scaleFactor) {
-    return ScaleUp<D>::make(d, scaleFactor);
-  }
-  template <class Operation, class D, class V>
-  static HWY_INLINE V apply(Operation operation, D d, const ScaleUp<D>& up, V a, V b) {
-    return up(saturatedSum(operation, d, a, b));
-  }
-};
-
 struct Half32 {  // 1
   static constexpr bool kLong = false;
   template <class Operation, class D>
@@ -110,8 +67,8 @@ struct Sums32 {
 
   template <bool kFlat, class Run>
   static HWY_INLINE void run(int sf, const Run& f) {
-    if (kFlat && sf == 0) return f(Op<Unscaled32>{{sf}});
-    if (sf <= 0) return f(Op<Up32>{{sf}});
+    if (kFlat && sf == 0) return f(Op<Unscaled>{{sf}});
+    if (sf <= 0) return f(Op<Up>{{sf}});
     if (sf == 1) return f(Op<Half32>{{sf}});
     f(Op<Down32>{{sf}});
   }

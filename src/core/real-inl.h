@@ -1,5 +1,5 @@
-// Integers of real results: lanes of 32-bit integers computed in single or double precision and
-// rounded to nearest, ties to even, whatever the caller's rounding mode.
+// Integers of real results: lanes of 32-bit integers computed in double precision and rounded to
+// nearest, ties to even, whatever the caller's rounding mode.
 #if defined(KELI_CORE_REAL_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_CORE_REAL_INL_H_
 #undef KELI_CORE_REAL_INL_H_
@@ -11,12 +11,6 @@
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
-
-// The nearest integers, of lanes that fit.
-template <class DF>
-HWY_INLINE hn::Vec<hn::Rebind<std::int32_t, DF>> nearest(DF, hn::Vec<DF> v) {
-  return hn::ConvertTo(hn::Rebind<std::int32_t, DF>(), hn::Round(v));
-}
 
 #if HWY_TARGET == HWY_SCALAR
 template <class DF, class F, class... V>

@@ -2,6 +2,8 @@
 // the region hold the same number of bytes in each of the n units of a row.
 #pragma once
 
+#include <type_traits>
+
 #include "core/band.h"
 #include "core/parallel.h"
 
@@ -18,16 +20,17 @@ Band<kSources> rowsOf(const Band<kSources>& b, const core::RowBlock& block) {
   return part;
 }
 
-// Calls kernel(band, arguments...).
-template <Team kTeam, int kSources, class... Parameters, class... Arguments>
-void walk(Band<kSources> b, std::size_t unitBytes,
-          void (*kernel)(const Band<kSources>&, Parameters...), Arguments... arguments) {
+// Calls kernel(band, arguments...) and returns what it returns; on a team, kernels return nothing.
+template <Team kTeam, int kSources, class Result, class... Parameters, class... Arguments>
+Result walk(Band<kSources> b, std::size_t unitBytes,
+            Result (*kernel)(const Band<kSources>&, Parameters...), Arguments... arguments) {
   const std::size_t height = b.rows;
   const Band<kSources> rows = b;
   std::size_t units[kSources + 1];
   for (std::size_t& unit : units) unit = unitBytes;
   layOut(b, units);
   if constexpr (kTeam == Team::kThreads) {
+    static_assert(std::is_void_v<Result>);
     const std::size_t moved = (kSources + 1) * unitBytes * rows.n * height;
     const int team = core::teamSize(static_cast<int>(height), moved);
     if (team > 1) {
@@ -45,7 +48,7 @@ void walk(Band<kSources> b, std::size_t unitBytes,
       return;
     }
   }
-  kernel(b, arguments...);
+  return kernel(b, arguments...);
 }
 
 }  // namespace keli

@@ -8,6 +8,7 @@
 #include "arith/operations.h"
 #include "arith/zero.h"
 #include "core/cycle.h"
+#include "core/walk.h"
 #include "data/copy.h"
 #include "division/rows.h"
 
@@ -28,12 +29,12 @@ inline Cycle reciprocals(const Cycle& divisors) {
 template <class T, Layout kLayout, class Value>
 KelStatus divideByConstant(const T* src, int srcStep, Value value, T* dst, int dstStep,
                            KeliSize size, int scaleFactor = 0) {
-  Band<1> b = makeBand(src, srcStep, dst, dstStep, rowSamples<kLayout>(size), size.height);
-  layOut(b, {sizeof(T), sizeof(T)});
+  const Band<1> b = makeBand(src, srcStep, dst, dstStep, rowSamples<kLayout>(size), size.height);
   const Cycle divisors = cycleOf<T, kLayout>(value);
   if constexpr (std::is_integral_v<T>) {
     const ImageByConstant& kernels = imageByConstant<T>();
-    (kLayout == Layout::C3 ? kernels.c3 : kernels.flat)(b, divisors.bytes, scaleFactor);
+    walk<Team::kCaller>(b, sizeof(T), kLayout == Layout::C3 ? kernels.c3 : kernels.flat,
+                        divisors.bytes, scaleFactor);
   } else {
     const arith::ImageAndConstant& kernels = arith::imageAndConstant<arith::Mul, T>();
     if constexpr (kLayout == Layout::C1) {
@@ -41,8 +42,9 @@ KelStatus divideByConstant(const T* src, int srcStep, Value value, T* dst, int d
       if (1 / value == 1) return data::copy<T, kLayout>(src, srcStep, dst, dstStep, size);
       if (1 / value == 0) return arith::setZero<T, kLayout>(dst, dstStep, size);
     }
-    const auto kernel = kLayout == Layout::C3 ? kernels.c3 : kernels.flat;
-    kernel(b, reciprocals(divisors).bytes, 0);
+    const Cycle factors = reciprocals(divisors);
+    walk<Team::kCaller>(b, sizeof(T), kLayout == Layout::C3 ? kernels.c3 : kernels.flat,
+                        factors.bytes, 0);
   }
   return kelStatusOk;
 }

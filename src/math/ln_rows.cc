@@ -90,7 +90,7 @@ struct LnOf16s : UnaryOp {
           },
           split.fraction, split.exponent);
     } else {
-      return nearest(df, split.value(df) * hn::Set(df, factor));
+      return roundToInt(hn::RebindToSigned<decltype(df)>(), split.value(df) * hn::Set(df, factor));
     }
   }
 };

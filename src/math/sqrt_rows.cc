@@ -68,7 +68,7 @@ struct Root : UnaryOp {
               KELI_LAMBDA { return hn::Sqrt(x) * hn::Set(dd, static_cast<double>(factor)); },
           v);
     } else {
-      return nearest(df, hn::Sqrt(v) * hn::Set(df, factor));
+      return roundToInt(hn::RebindToSigned<decltype(df)>(), hn::Sqrt(v) * hn::Set(df, factor));
     }
   }
 };

@@ -9,8 +9,7 @@
 #include <cmath>
 #include <limits>
 
-#include "core/scale.h"
-#include "core/wide-inl.h"
+#include "core/scale-inl.h"
 #include "math/unary-inl.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -73,18 +72,16 @@ struct SquareUpOf8u : Square<Kel8u> {
   }
 };
 
-// A scale factor of 1, of 16 bits: half of a square, and 1 more where that is odd and lost a 1.
+// A scale factor of 1, of 16 bits. No square has so many bits that adding 1 leaves its lane.
 template <class T>
 struct SquareHalf : Square<T> {
   HWY_INLINE SquareHalf() : Square<T>(1) {}
 
   template <class D, class V>
   HWY_INLINE V vector(D d, Nothing, V v) const {
-    const auto one = hn::Set(WideTag<D>(), 1);
-    return narrow(d, mapWide(d, products(d, v, v), [&](auto square) KELI_LAMBDA {
-                    const auto half = hn::ShiftRight<1>(square);
-                    return half + hn::And(hn::And(half, square), one);
-                  }));
+    const WideTag<D> dw;
+    return narrow(d, mapWide(d, products(d, v, v),
+                             [&](auto square) KELI_LAMBDA { return roundHalfSigned(dw, square); }));
   }
 };
 

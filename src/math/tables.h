@@ -51,7 +51,6 @@ constexpr double exponential(double t) {
 }
 
 // ---- Tables of 256 results for a range of scale factors; those beyond give what its ends give
-// ----
 
 template <int kLeastFactor, int kMostFactor>
 struct ByteTables {
@@ -114,7 +113,6 @@ constexpr ByteTables<-9, 4> makeLnTables() {
 inline constexpr ByteTables<-9, 4> kLnTables = makeLnTables();
 
 // ---- The exponential
-// -----------------------------------------------------------------------------
 
 // The results between 0 and saturation are those of few inputs: of `start` and the 15 that follow.
 // Inputs below start have the result of start, those above the range that of its end.
