@@ -44,6 +44,10 @@ def entry_checks(entry):
     return out
 
 
+def check_text(status, text):
+    return f"{status} if {text}" if status else text
+
+
 def parallel_text(entry):
     return ("On large regions the rows are shared out among threads, with the same results: "
             + ", ".join(entry["parallel"]) + ".")
@@ -69,7 +73,7 @@ def header(tables, statuses):
                 out += [" *"] + words(parallel_text(entry), 96, " * ")
             checks = entry_checks(entry)
             if checks:
-                text = "; ".join(f"{s} if {t}" for s, t in checks)
+                text = "; ".join(check_text(s, t) for s, t in checks)
                 out += [" *"] + words(f"Checks, in order: {text}.", 96, " * ")
             out += [" */"]
             out += [f"KELI_API {f.prototype};" for f in entry["functions"]]
@@ -87,8 +91,10 @@ def exports(table):
             for word in entry.get("checks", "").split():
                 status, _, condition = CHECKS[word]
                 text = condition(f)
-                if text:
+                if text and status:
                     out.append(f"  if ({text}) return {status};")
+                elif text:
+                    out.append(f"  if (const KelStatus status = {text}) return status;")
             code = {"T": kel(f.types[0]), "D": kel(f.types[-1])} if f.types else {}
             code |= {"operation": f.operation, "team": f.team}
             if f.layouts:
@@ -110,7 +116,7 @@ def look_ups(functions):
     """Functions that tell what a check or a role is called."""
     out = ["CheckInfo about(Check check) {", "  switch (check) {"]
     for word, (status, text, _) in CHECKS.items():
-        out += [f"    case Check::{enumerator(word)}:", f"      return {{{status}, {c_string(text)}}};"]
+        out += [f"    case Check::{enumerator(word)}:", f"      return {{{status or 'kelStatusOk'}, {c_string(text)}}};"]
     out += ["  }", '  return {kelStatusOk, ""};', "}", "", "const char* nameOf(Role role) {",
             "  switch (role) {"]
     for role in sorted({a.role for f in functions for a in f.arguments}):
@@ -180,7 +186,8 @@ def reference(table):
         checks = entry_checks(entry)
         if checks:
             out += ["Checks, in order:", ""]
-            out += [f"{i}. `{s}` if {t}" for i, (s, t) in enumerate(checks, 1)] + [""]
+            out += [f"{i}. {check_text(s and f'`{s}`', t)}"
+                    for i, (s, t) in enumerate(checks, 1)] + [""]
         out += ["```c"] + [f"{f.prototype};" for f in functions] + ["```", ""]
     return "\n".join(out)
 

@@ -17,12 +17,16 @@ TABLES = ["core", "data", "arith", "division", "complex", "math", "logic"]
 ROLE_OF_NAME = {
     "pSrc": "source", "pSrc1": "source", "pSrc2": "source", "pDst": "destination",
     "pSrcDst": "inOut", "pMask": "mask", "roiSize": "region", "value": "constant",
-    "scaleFactor": "scaleFactor",
+    "scaleFactor": "scaleFactor", "cmpOp": "compareOp", "hint": "hint",
 }
 IMAGES = {"source", "destination", "inOut", "mask", "sourceChannel", "destinationChannel"}
 WRITTEN = {"destination", "destinationChannel", "inOut"}
 # One value for C1, an array of one for each channel otherwise: of this type, or of the samples'.
-CONSTANTS = {"constant": "", "shift": "32u"}
+# lower and upper are the ends of a range of samples.
+CONSTANTS = {"constant": "", "shift": "32u", "lower": "", "upper": ""}
+# What a function writes beside images: one value for C1, an array of one for each channel
+# otherwise. Of counts and levels each channel has an array, as long as its number of levels says.
+RESULTS = {"result", "counts", "levelsOut"}
 LAYOUT = re.compile(r"A?[CP]\d")
 DESCRIPTOR = re.compile(r"((?:A?[CP]\d){1,2})(C?)(I?)(M?)(R?)(Sfs)?")
 TYPE_CODE = re.compile(r"\d+(?:uc|sc|fc|u|s|f)")
@@ -39,7 +43,7 @@ class Argument:
 
     @property
     def pointer(self):
-        return bool(self.array) or self.c_type.endswith("*")
+        return bool(self.array) or self.c_type.endswith(("*", "* const"))
 
     @property
     def planar(self):
@@ -92,6 +96,11 @@ def kel(code):
     return "uint32_t" if code == "32u" else f"Kel{code}"
 
 
+def number(code):
+    """The C type of a number that is no sample."""
+    return "int" if code == "32s" else kel(code)
+
+
 def used_channels(layout):
     return 3 if layout.startswith("A") else int(layout[-1])
 
@@ -103,10 +112,11 @@ def make_argument(word, types, layouts):
     role, _, given = rest.partition(":")
     role = role or ROLE_OF_NAME.get(name) or ("step" if name.endswith("Step") else "")
     first, last = types[0] if types else "", types[-1] if types else ""
+    given, _, layout_given = given.partition("_")
     if role in ("source", "sourceChannel"):
         code, layout, const = given or first, layouts[0], "const "
     elif role in WRITTEN:
-        code, layout, const = given or last, layouts[-1], ""
+        code, layout, const = given or last, layout_given or layouts[-1], ""
     elif role == "mask":
         code, layout, const = "8u", "C1", "const "
     if role in IMAGES:
@@ -119,31 +129,47 @@ def make_argument(word, types, layouts):
         if layouts[0] == "C1":
             return Argument(name, role, kel(code), "", code)
         return Argument(name, role, f"const {kel(code)}", f"[{used_channels(layouts[0])}]", code)
+    if role in RESULTS | {"levels", "levelCount", "levelBound"}:
+        return per_channel(name, role, given or last, layouts[0])
     fixed = {
         "step": ("int", ""), "region": ("KeliSize", ""), "scaleFactor": ("int", ""),
         "scalar": (kel(given or first), ""), "order": ("const int", "[3]"),
         "extent": ("int", ""), "stepOut": ("int*", ""), "block": ("void*", ""),
-        "unread": (given.replace("~", " "), ""),
+        "unread": (given.replace("~", " "), ""), "compareOp": ("KelCmpOp", ""),
+        "hint": ("KelHintAlgorithm", ""), "tolerance": (kel(given or first), ""),
     }
     if role not in fixed:
         raise SystemExit(f"argument '{word}': unknown role '{role}'")
     c_type, array = fixed[role]
-    return Argument(name, role, c_type, array, (given or first) if role == "scalar" else "")
+    return Argument(name, role, c_type, array,
+                    (given or first) if role in ("scalar", "tolerance") else "")
+
+
+def per_channel(name, role, code, layout):
+    """A result or a parameter of which every channel has its own: code is the type of its
+    numbers."""
+    array = "" if layout == "C1" else f"[{used_channels(layout)}]"
+    const = "const " if role == "levels" else ""
+    if role == "result":
+        return Argument(name, role, number(code) if array else f"{number(code)}*", array, code)
+    if role in ("levelCount", "levelBound"):
+        return Argument(name, role, "const int" if array else "int", array)
+    return Argument(name, role, f"{const}{number(code)}*{' const' if array else ''}", array, code)
 
 
 def in_place_words(line):
     """The argument words of an in-place member: the destination takes the last source's place, and
-    constants stand first."""
+    constants that stand before the destination stand first."""
     items = line.split()
     sources = [i for i, w in enumerate(items) if w.split(":")[0].startswith("pSrc")]
     last = sources[-1]
     gone = [i for i, w in enumerate(items) if w.split(":")[0] in ("pDst", "dstStep")]
+    first = [w for w in items[:gone[0]] if w.split(":")[0] == "value"]
     items[last], items[last + 1] = "pSrcDst", "srcDstStep"
     if len(sources) == 2:
         items[sources[0]], items[sources[0] + 1] = "pSrc", "srcStep"
     kept = [w for i, w in enumerate(items) if i not in gone]
-    constants = [w for w in kept if w.split(":")[0] == "value"]
-    return constants + [w for w in kept if w not in constants]
+    return first + [w for w in kept if w not in first]
 
 
 def in_place_actuals(line):
@@ -164,7 +190,7 @@ def in_place_actuals(line):
 def null_condition(function):
     late = "values" in function.entry.get("checks", "").split()
     pointers = [a for a in function.arguments
-                if a.pointer and not (late and a.role == "constant")]
+                if a.pointer and not (late and a.role in CONSTANTS)]
     parts = [f"anyNull({', '.join(a.name for a in pointers)})"]
     parts += [f"anyPlaneNull<{a.layout[-1]}>({a.name})" for a in pointers if a.planar]
     return " || ".join(parts)
@@ -185,7 +211,32 @@ def divisor_condition(function):
         f"isZero({divisor.name})"
 
 
+def late_condition(function):
+    arrays = [a.name for a in function.arguments if a.role in CONSTANTS and a.array]
+    return f"anyNull({', '.join(arrays)})" if arrays else ""
+
+
+def pair_condition(name):
+    """A condition on the ends of a range, of every channel."""
+    def condition(function):
+        ends = [a for a in function.arguments if a.role in ("lower", "upper")]
+        names = [a.name for a in sorted(ends, key=lambda a: a.role)]
+        count = [ends[0].array.strip("[]")] if ends[0].array else []
+        return f"{name}({', '.join(names + count)})"
+    return condition
+
+
+def histogram_condition(array, text):
+    def condition(function):
+        count = next(a for a in function.arguments if a.role == "counts").array.strip("[]")
+        return text.format(counts=names_of(function, "counts"), channels=count,
+                           levels=names_of(function, "levels") or names_of(function, "levelsOut"),
+                           n=names_of(function, "levelCount")) if bool(count) == array else ""
+    return condition
+
+
 # Check word: (status name, text for the documentation, condition that fails; "" = not applicable).
+# Without a status name, the condition is an expression that gives the status.
 CHECKS = {
     "null": ("kelStatusNullPointer", "a pointer is null", null_condition),
     "width": ("kelStatusBadSize", "the width is below 1 (C3 and C4)",
@@ -196,13 +247,24 @@ CHECKS = {
              lambda f: f"badSize({names_of(f, 'region')})"),
     "step": ("kelStatusBadStep", "a step is below 1",
              lambda f: f"anyBadStep({names_of(f, 'step')})"),
-    "values": ("kelStatusNullPointer", "the array of values is null",
-               lambda f: next((f"anyNull({a.name})" for a in f.arguments
-                               if a.role == "constant" and a.array), "")),
+    "values": ("kelStatusNullPointer", "an array of values is null", late_condition),
     "divisor": ("kelStatusDivisorZero", "the constant, or one of its channels, is 0",
                 divisor_condition),
     "order": ("kelStatusBadChannelOrder", "an entry of dstOrder is outside 0..2",
               lambda f: f"badChannelOrder({names_of(f, 'order')})"),
+    "operation": ("kelStatusBadCompareOp", "cmpOp is neither kelCmpLess nor kelCmpGreater",
+                  lambda f: f"badThresholdOp({names_of(f, 'compareOp')})"),
+    "thresholds": ("kelStatusBadThresholds", "not thresholdGT >= thresholdLT, in any channel",
+                   pair_condition("badThresholds")),
+    "bounds": ("kelStatusBadRange", "lowerBound > upperBound in any channel",
+               pair_condition("badRange")),
+    "epsilon": ("kelStatusBadEpsilon", "not eps >= 0",
+                lambda f: f"!({names_of(f, 'tolerance')} >= 0)"),
+    "channels": ("", "of C3, AC4 and C4, channel by channel, kelStatusNullPointer if its histogram "
+                 "or its levels are null, kelStatusBadHistogramLevels if its nLevels is below 2",
+                 histogram_condition(True, "histogramStatus({counts}, {levels}, {n}, {channels})")),
+    "levels": ("kelStatusBadHistogramLevels", "nLevels is below 2 (C1)",
+               histogram_condition(False, "{n} < 2")),
 }
 
 

@@ -99,6 +99,44 @@ std::size_t firstDifference(const Image& image, const std::vector<std::uint8_t>&
   return samples;
 }
 
+std::string otherResult(const Peer& peer, const char* what, std::size_t at, double found,
+                        double expected) {
+  return std::string(peer.name) + " gives another result, first in " + what + " " +
+         std::to_string(at) + ": " + std::to_string(found) + " instead of " +
+         std::to_string(expected);
+}
+
+std::string compareImages(const Frame& frame, const Peer& peer, const Work& work) {
+  const Image& image = frame.destination();
+  frame.resetDestination();
+  frame.call();
+  const std::vector<std::uint8_t> expected = contents(image);
+  frame.resetDestination();
+  work();
+  const std::vector<std::uint8_t> found = contents(image);
+  const std::size_t bytes = registry::bytesOf(image.type());
+  const std::size_t at = firstDifference(image, expected, found, peer.tolerance);
+  if (at == expected.size() / bytes) return "";
+  return otherResult(peer, "sample", at, loadComponent(image.type(), found.data() + at * bytes, 0),
+                     loadComponent(image.type(), expected.data() + at * bytes, 0));
+}
+
+std::string compareResults(const Frame& frame, const Peer& peer, const Work& work) {
+  frame.call();
+  const std::vector<double> expected = frame.results();
+  std::vector<double>& found = frame.answer();
+  std::fill(found.begin(), found.end(), std::nan(""));
+  work();
+  std::size_t compared = 0;
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    if (std::isnan(found[i])) continue;
+    ++compared;
+    if (!(std::abs(found[i] - expected[i]) <= peer.tolerance * std::abs(expected[i])))
+      return otherResult(peer, "result", i, found[i], expected[i]);
+  }
+  return compared != 0 ? "" : std::string(peer.name) + " gives no result";
+}
+
 }  // namespace
 
 void run(Contest& contest, const Effort& effort) {
@@ -123,20 +161,8 @@ const Contestant* best(const std::vector<Contestant>& contestants) {
 }
 
 std::string compare(const Frame& frame, const Peer& peer, const Work& work) {
-  const Image& image = frame.destination();
-  frame.resetDestination();
-  frame.call();
-  const std::vector<std::uint8_t> expected = contents(image);
-  frame.resetDestination();
-  work();
-  const std::vector<std::uint8_t> found = contents(image);
-  const std::size_t bytes = registry::bytesOf(image.type());
-  const std::size_t at = firstDifference(image, expected, found, peer.tolerance);
-  if (at == expected.size() / bytes) return "";
-  return std::string(peer.name) + " writes another result, first in sample " + std::to_string(at) +
-         ": " + std::to_string(loadComponent(image.type(), found.data() + at * bytes, 0)) +
-         " instead of " +
-         std::to_string(loadComponent(image.type(), expected.data() + at * bytes, 0));
+  return frame.hasDestination() ? compareImages(frame, peer, work)
+                                : compareResults(frame, peer, work);
 }
 
 }  // namespace keli::bench

@@ -1,6 +1,8 @@
 // Images and arguments of the calls that are timed.
 #include "frame.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <stdexcept>
 
@@ -121,6 +123,7 @@ Frame::Frame(const registry::Function& function, Size size, const Choices& choic
     : function_(function), size_(size), choices_(choices) {
   for (const Argument& argument : function.arguments) addArgument(argument);
   resetDestination();
+  answer_.assign(results().size(), std::nan(""));
 }
 
 void Frame::resetDestination() const {
@@ -162,21 +165,86 @@ void Frame::addImage(const Argument& argument) {
   }
 }
 
+void* Frame::addArray(std::size_t count) {
+  arrays_.push_back(std::make_unique<std::uint64_t[]>(count));
+  return arrays_.back().get();
+}
+
+void Frame::addResult(const Argument& argument) {
+  const std::size_t count = static_cast<std::size_t>(std::max(argument.length, 1));
+  Value value;
+  value.p = addArray(count);
+  results_.push_back({argument.type, count, value.p});
+  values_.push_back(value);
+}
+
+// A histogram or its levels, of each channel.
+void Frame::addPerChannel(const Argument& argument) {
+  const std::size_t channels = static_cast<std::size_t>(std::max(argument.length, 1));
+  const std::size_t count = choices_.levels - (argument.role == Role::kCounts ? 1 : 0);
+  const void* arrays[4];
+  for (std::size_t k = 0; k < channels; ++k) {
+    void* const array = addArray(count);
+    arrays[k] = array;
+    if (argument.role == Role::kCounts) results_.push_back({argument.type, count, array});
+    for (std::size_t i = 0; argument.role == Role::kLevels && i < count; ++i) {
+      storeSample(argument.type, array, i,
+                  least() + (most() - least()) * static_cast<double>(i) / (choices_.levels - 1));
+    }
+  }
+  Value value;
+  value.p = arrays[0];
+  if (argument.length != 0) {
+    void* const pointers = addArray(channels);
+    std::memcpy(pointers, arrays, channels * sizeof(void*));
+    value.p = pointers;
+  }
+  values_.push_back(value);
+}
+
+// An int, or an array of it for each channel.
+void Frame::addNumber(const Argument& argument, double number) {
+  Value value{};
+  value.i = static_cast<std::int64_t>(number);
+  if (argument.length != 0) {
+    void* const array = addArray(static_cast<std::size_t>(argument.length));
+    for (int k = 0; k < argument.length; ++k) storeSample(Type::k32s, array, k, number);
+    value.p = array;
+  }
+  values_.push_back(value);
+}
+
+// The ends of the range that histograms cover: of all samples of the source.
+double Frame::least() const { return sources_.front()->type() == Type::k16s ? -32768 : 0; }
+double Frame::most() const {
+  const Type type = sources_.front()->type();
+  return type == Type::k16s ? 32768 : isFloating(type) ? choices_.most : 256;
+}
+
+std::vector<double> Frame::results() const {
+  std::vector<double> all;
+  for (const Result& r : results_) {
+    for (std::size_t i = 0; i < r.count; ++i) all.push_back(loadComponent(r.type, r.data, i));
+  }
+  return all;
+}
+
 void Frame::addConstant(const Argument& argument) {
   Value value{};
+  const double above = argument.role == Role::kUpper ? choices_.upper : 0;
   if (argument.length > 0) {
     auto array = std::make_unique<std::uint64_t[]>(argument.length);
     for (int k = 0; k < argument.length; ++k) {
-      storeSample(argument.type, array.get(), k, constant(k));
+      storeSample(argument.type, array.get(), k, constant(k) + above);
     }
     value.p = array.get();
     arrays_.push_back(std::move(array));
   } else if (isComplex(argument.type)) {
     storeSample(argument.type, &value, 0, constant(0));
   } else if (isFloating(argument.type)) {
-    value.f = constant(0);
+    value.f = constant(0) + above;
   } else {
-    value.i = static_cast<std::int64_t>(constant(0));
+    value.i = static_cast<std::int64_t>(constant(0) + above);
   }
   values_.push_back(value);
 }
@@ -186,8 +254,30 @@ void Frame::addArgument(const Argument& argument) {
   switch (argument.role) {
     case Role::kConstant:
     case Role::kShift:
+    case Role::kLower:
+    case Role::kUpper:
     case Role::kScalar:
       return addConstant(argument);
+    case Role::kResult:
+      return addResult(argument);
+    case Role::kCounts:
+    case Role::kLevels:
+    case Role::kLevelsOut:
+      return addPerChannel(argument);
+    case Role::kLevelCount:
+      return addNumber(argument, choices_.levels);
+    case Role::kLevelBound:
+      // The first is the lower one.
+      return addNumber(argument, std::strcmp(argument.name, "lowerLevel") == 0 ? least() : most());
+    case Role::kTolerance:
+      value.f = choices_.constant;
+      break;
+    case Role::kCompareOp:
+      value.i = choices_.compareOp;
+      break;
+    case Role::kHint:
+      value.i = choices_.hint;
+      break;
     case Role::kStep:
       value.i = lastStep_;
       break;

@@ -37,6 +37,10 @@ struct Choices {
   double constant = 17;  // of the first channel; that of channel k is (k + 1) times as large
   bool odd = false;      // whether sources hold odd integers alone, for divisors
   double most = 256;     // what floating samples of sources stay below
+  int compareOp = kelCmpLess;
+  int hint = kelAlgHintFast;
+  double upper = 64;  // how far the upper end of a range lies above the lower one, the constant
+  int levels = 17;    // of histograms, from the least sample value to past the greatest
 };
 
 // A planar image is one allocation, one plane after another.
@@ -89,6 +93,7 @@ class Frame {
   bool inPlace() const { return function_.inPlace; }
   std::size_t sourceCount() const { return sources_.size(); }
   bool hasDestination() const { return destination_ != nullptr; }
+  const Choices& choices() const { return choices_; }
   int scaleFactor() const { return choices_.scaleFactor; }
   double constant(int channel) const { return choices_.constant * (channel + 1); }
 
@@ -98,10 +103,21 @@ class Frame {
   // Gives the written image its state before the first call.
   void resetDestination() const;
 
+  // What a call has answered beside images: all numbers of the first result, then of the next.
+  std::vector<double> results() const;
+  // Where a peer puts its own answer to the same; what it leaves a NaN is not compared.
+  std::vector<double>& answer() const { return answer_; }
+
  private:
   void addImage(const registry::Argument& argument);
   void addConstant(const registry::Argument& argument);
   void addArgument(const registry::Argument& argument);
+  void addResult(const registry::Argument& argument);
+  void addPerChannel(const registry::Argument& argument);
+  void addNumber(const registry::Argument& argument, double number);
+  void* addArray(std::size_t count);
+  double least() const;
+  double most() const;
 
   const registry::Function& function_;
   Size size_;
@@ -112,6 +128,13 @@ class Frame {
   std::vector<std::unique_ptr<std::uint64_t[]>> arrays_;
   std::vector<registry::Value> values_;
   int lastStep_ = 0;
+  struct Result {
+    registry::Type type;
+    std::size_t count;
+    const void* data;
+  };
+  std::vector<Result> results_;
+  mutable std::vector<double> answer_;
 };
 
 }  // namespace keli::bench

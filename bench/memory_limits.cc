@@ -143,7 +143,26 @@ KELI_BENCH_AVX2 std::uint64_t readVectors(const std::uint8_t* from, std::size_t 
   return static_cast<std::uint64_t>(_mm256_extract_epi64(sum, 0)) + readWords(from + i, bytes - i);
 }
 
+__attribute__((target("avx512f"))) std::uint64_t readLongVectors(const std::uint8_t* from,
+                                                                 std::size_t bytes) {
+  constexpr std::size_t kLong = 64;
+  __m512i sums[4] = {_mm512_setzero_si512(), _mm512_setzero_si512(), _mm512_setzero_si512(),
+                     _mm512_setzero_si512()};
+  std::size_t i = 0;
+  for (; i + 4 * kLong <= bytes; i += 4 * kLong) {
+    for (int k = 0; k < 4; ++k) {
+      sums[k] = _mm512_add_epi64(sums[k], _mm512_loadu_si512(from + i + k * kLong));
+    }
+  }
+  const __m512i sum =
+      _mm512_add_epi64(_mm512_add_epi64(sums[0], sums[1]), _mm512_add_epi64(sums[2], sums[3]));
+  std::uint8_t lanes[kLong];
+  _mm512_storeu_si512(lanes, sum);
+  return readWords(lanes, kLong) + readWords(from + i, bytes - i);
+}
+
 bool hasVectors() { return __builtin_cpu_supports("avx2"); }
+bool hasLongVectors() { return __builtin_cpu_supports("avx512f"); }
 
 #else
 
@@ -207,6 +226,7 @@ std::vector<Named<Reader>> readers() {
   std::vector<Named<Reader>> result = {{"8-byte loads", readWords}};
 #ifdef KELI_BENCH_AVX2
   if (hasVectors()) result.push_back({"4 loads", readVectors});
+  if (hasLongVectors()) result.push_back({"4 loads of 64 bytes", readLongVectors});
 #endif
   return result;
 }
@@ -274,19 +294,28 @@ std::vector<LimitVariant> fills(Block to) {
   return result;
 }
 
-std::vector<LimitVariant> reads(Block from) {
+// All sources, one after the other.
+std::vector<LimitVariant> reads(const std::vector<Block>& blocks) {
   std::vector<LimitVariant> result;
   for (const auto& [name, read] : readers()) {
     const Reader reader = read;
-    result.push_back({name, [from, reader] {
+    result.push_back({name, [blocks, reader] {
                         std::uint64_t sum = 0;
-                        for (std::size_t y = 0; y < from.rows; ++y) {
-                          sum += reader(from.data + y * from.step, from.rowBytes);
+                        for (const Block& from : blocks) {
+                          for (std::size_t y = 0; y < from.rows; ++y) {
+                            sum += reader(from.data + y * from.step, from.rowBytes);
+                          }
                         }
                         asm volatile("" ::"r"(sum) : "memory");
                       }});
   }
   return result;
+}
+
+std::vector<Block> sourcesOf(const Frame& frame) {
+  std::vector<Block> blocks;
+  for (std::size_t i = 0; i < frame.sourceCount(); ++i) blocks.push_back(frame.source(i).block());
+  return blocks;
 }
 
 }  // namespace
@@ -297,7 +326,7 @@ std::vector<LimitVariant> limitVariants(Limit limit, const Frame& frame) {
     case Limit::kFill:
       return fills(to);
     case Limit::kRead:
-      return reads(frame.source().block());
+      return reads(sourcesOf(frame));
     default:
       if (frame.sourceCount() == 2)
         return joins(to, frame.source(0).block(), frame.source(1).block());

@@ -13,7 +13,7 @@ enum class Limit {
   kMove,  // reading the sources and writing the destination; without a source, rewriting it in
           // place
   kFill,  // writing the destination
-  kRead,  // reading the source
+  kRead,  // reading the sources
 };
 
 using Work = std::function<void()>;

@@ -29,7 +29,9 @@ struct Peer {
   // Makes ready what a user of that library would keep (headers over the same pixels) and returns
   // the call.
   Work (*prepare)(const Frame& frame);
-  double tolerance = 0;  // largest difference of a written sample from the function's result
+  // Largest difference of a written sample from the function's result; for reductions, relative to
+  // it.
+  double tolerance = 0;
 };
 
 struct Family {

@@ -278,8 +278,8 @@ KELI_API KelStatus keliCopy_32f_P4C4R(const Kel32f* const pSrc[4], int srcStep, 
  * AC4 takes three values and leaves the fourth sample of every pixel as it was.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
- * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusNullPointer if
- * the array of values is null.
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusNullPointer if an
+ * array of values is null.
  */
 KELI_API KelStatus keliSet_8u_C1R(Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize);
 KELI_API KelStatus keliSet_8u_C3R(const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize);
@@ -304,8 +304,8 @@ KELI_API KelStatus keliSet_32f_AC4R(const Kel32f value[3], Kel32f* pDst, int dst
  * it was.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
- * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusNullPointer if
- * the array of values is null.
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusNullPointer if an
+ * array of values is null.
  */
 KELI_API KelStatus keliSet_8u_C1MR(Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);
 KELI_API KelStatus keliSet_8u_C3MR(const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, int maskStep);

@@ -39,6 +39,24 @@ typedef struct {
   Kel32f im;
 } Kel32fc;
 
+/* Comparison operations. */
+typedef int32_t KelCmpOp;
+enum {
+  kelCmpLess = 0,      /* a < b */
+  kelCmpLessEq = 1,    /* a <= b */
+  kelCmpEq = 2,        /* a == b */
+  kelCmpGreaterEq = 3, /* a >= b */
+  kelCmpGreater = 4    /* a > b */
+};
+
+/* How floating-point sums are formed; every value but kelAlgHintAccurate is the fast way. */
+typedef int32_t KelHintAlgorithm;
+enum {
+  kelAlgHintNone = 0,
+  kelAlgHintFast = 1,
+  kelAlgHintAccurate = 2 /* double precision in a fixed order */
+};
+
 /* All in pixels. */
 typedef struct {
   int32_t width;

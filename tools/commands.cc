@@ -129,8 +129,11 @@ void printChecks(const Function& f) {
     if (!registry::makes(f, check)) continue;
     registry::CheckInfo info = registry::about(check);
     if (!number) std::printf("\nchecks, in order:\n");
-    std::printf("  %d. %s (%d) if %s\n", ++number, registry::statusName(info.status),
-                static_cast<int>(info.status), info.text);
+    std::printf("  %d. ", ++number);
+    if (info.status != kelStatusOk) {
+      std::printf("%s (%d) if ", registry::statusName(info.status), static_cast<int>(info.status));
+    }
+    std::printf("%s\n", info.text);
   }
 }
 

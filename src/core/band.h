@@ -69,6 +69,28 @@ inline Band<2> makeBand(const void* src1, int src1Step, const void* src2, int sr
           false};
 }
 
+// Bands that are only read, for reductions whose result does not depend on the order of samples: a
+// region without padding is one long row. unitBytes: of one of the n of a row.
+inline Band<1> readBand(const void* src, int srcStep, std::size_t n, int height,
+                        std::size_t unitBytes) {
+  Band<1> b = makeBand(src, srcStep, nullptr, 0, n, height);
+  if (static_cast<std::size_t>(srcStep) == n * unitBytes) {
+    b.n *= b.rows;
+    b.rows = 1;
+  }
+  return b;
+}
+
+inline Band<2> readBand(const void* src1, int src1Step, const void* src2, int src2Step,
+                        std::size_t n, int height, std::size_t unitBytes) {
+  Band<2> b = makeBand(src1, src1Step, src2, src2Step, nullptr, 0, n, height);
+  if (src1Step == src2Step && static_cast<std::size_t>(src1Step) == n * unitBytes) {
+    b.n *= b.rows;
+    b.rows = 1;
+  }
+  return b;
+}
+
 // Settles how a region is walked. One without padding becomes one long row. One that moves more
 // bytes than the second-level cache holds is stored around the caches, which spares reading the
 // destination before it is overwritten; not in place, where it has just been read. unit: bytes of

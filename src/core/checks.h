@@ -40,13 +40,56 @@ inline bool isZero(Kel32fc value) { return value.re == 0 && value.im == 0; }
 
 // Arrays stand at any address, as images do.
 template <class T>
+inline T valueAt(const T* values, int k) {
+  T value;
+  std::memcpy(&value, values + k, sizeof(T));
+  return value;
+}
+
+template <class T>
 inline bool anyZero(const T* values, int count) {
   for (int k = 0; k < count; ++k) {
-    T value;
-    std::memcpy(&value, values + k, sizeof(T));
-    if (isZero(value)) return true;
+    if (isZero(valueAt(values, k))) return true;
   }
   return false;
+}
+
+// Written so that a NaN is a bad threshold, and no bad bound of a range.
+template <class T>
+inline bool badThresholds(T lower, T upper) {
+  return !(upper >= lower);
+}
+template <class T>
+inline bool badThresholds(const T* lower, const T* upper, int count) {
+  for (int k = 0; k < count; ++k) {
+    if (badThresholds(valueAt(lower, k), valueAt(upper, k))) return true;
+  }
+  return false;
+}
+
+template <class T>
+inline bool badRange(T lower, T upper) {
+  return lower > upper;
+}
+template <class T>
+inline bool badRange(const T* lower, const T* upper, int count) {
+  for (int k = 0; k < count; ++k) {
+    if (badRange(valueAt(lower, k), valueAt(upper, k))) return true;
+  }
+  return false;
+}
+
+inline bool badThresholdOp(KelCmpOp op) { return op != kelCmpLess && op != kelCmpGreater; }
+
+// Channel by channel: a fault of the first channel hides those of the second.
+template <class Counts, class Levels>
+inline KelStatus histogramStatus(Counts* const* counts, Levels* const* levels, const int* nLevels,
+                                 int channels) {
+  for (int k = 0; k < channels; ++k) {
+    if (anyNull(valueAt(counts, k), valueAt(levels, k))) return kelStatusNullPointer;
+    if (valueAt(nLevels, k) < 2) return kelStatusBadHistogramLevels;
+  }
+  return kelStatusOk;
 }
 
 inline bool badChannelOrder(const int* order) {

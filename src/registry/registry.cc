@@ -42,16 +42,31 @@ bool isWritten(Role role) {
 }
 
 bool makes(const Function& function, Check check) {
-  bool array = false, overChannels = false;
+  bool array = false, overChannels = false, histograms = false;
   for (const Argument& a : function.arguments) {
     array |= isConstant(a.role) && a.length != 0;
+    histograms |= a.role == Role::kCounts && a.length != 0;
     overChannels |= isImage(a.role) && (a.layout == Layout::C3 || a.layout == Layout::C4);
   }
   if (check == Check::kValues) return array;
   if (check == Check::kWidth || check == Check::kArea) return overChannels;
+  if (check == Check::kChannels) return histograms;
+  if (check == Check::kLevels) return !histograms;
   return true;
 }
 
-bool isConstant(Role role) { return role == Role::kConstant || role == Role::kShift; }
+bool isConstant(Role role) {
+  return role == Role::kConstant || role == Role::kShift || role == Role::kLower ||
+         role == Role::kUpper;
+}
+
+bool isResult(Role role) {
+  return role == Role::kResult || role == Role::kCounts || role == Role::kLevelsOut;
+}
+
+bool isPointer(const Argument& a) {
+  return isImage(a.role) || a.length != 0 || isResult(a.role) || a.role == Role::kLevels ||
+         a.role == Role::kStepOut;
+}
 
 }  // namespace keli::registry

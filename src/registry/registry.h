@@ -41,19 +41,46 @@ enum class Role : std::uint8_t {
   kRegion,    // KeliSize of all images
   kConstant,  // a value or, for several channels, an array of them
   kShift,     // the same, counts of bits
+  kLower,     // the same, the lower end of a range
+  kUpper,     // its upper end, later in the list
   kScalar,    // a value, whatever the layout
+  kTolerance,
   kScaleFactor,
-  kOrder,    // three channel indexes
-  kExtent,   // a width or height
-  kStepOut,  // receives a step
-  kBlock,    // a block to release
-  kUnread,   // accepted and ignored
+  kCompareOp,
+  kHint,
+  kResult,      // receives a value or, for several channels, an array of them
+  kCounts,      // receives a histogram or, for several channels, one for each
+  kLevels,      // its boundaries, likewise
+  kLevelsOut,   // receives them
+  kLevelCount,  // how many there are: an int or an array of them
+  kLevelBound,  // the first or the last of them
+  kOrder,       // three channel indexes
+  kExtent,      // a width or height
+  kStepOut,     // receives a step
+  kBlock,       // a block to release
+  kUnread,      // accepted and ignored
 };
 
-// kWidth and kArea are made by C3 and C4 alone, which are C1 over more samples.
-enum class Check : std::uint8_t { kNull, kWidth, kArea, kSize, kStep, kValues, kDivisor, kOrder };
+// kWidth and kArea are made by C3 and C4 alone, which are C1 over more samples; kChannels by
+// histograms of several channels, kLevels by those of one.
+enum class Check : std::uint8_t {
+  kNull,
+  kWidth,
+  kArea,
+  kSize,
+  kStep,
+  kValues,
+  kDivisor,
+  kOrder,
+  kOperation,
+  kThresholds,
+  kBounds,
+  kEpsilon,
+  kChannels,
+  kLevels,
+};
 
-// What a check answers, and when.
+// What a check answers, and when; kelStatusOk where the text tells both.
 struct CheckInfo {
   KelStatus status;
   const char* text;
@@ -149,5 +176,7 @@ bool makes(const Function& function, Check check);
 bool isImage(Role role);
 bool isWritten(Role role);
 bool isConstant(Role role);  // one value, or one for each channel
+bool isResult(Role role);    // written, and no image
+bool isPointer(const Argument& argument);
 
 }  // namespace keli::registry

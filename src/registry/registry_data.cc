@@ -5537,11 +5537,23 @@ CheckInfo about(Check check) {
     case Check::kStep:
       return {kelStatusBadStep, "a step is below 1"};
     case Check::kValues:
-      return {kelStatusNullPointer, "the array of values is null"};
+      return {kelStatusNullPointer, "an array of values is null"};
     case Check::kDivisor:
       return {kelStatusDivisorZero, "the constant, or one of its channels, is 0"};
     case Check::kOrder:
       return {kelStatusBadChannelOrder, "an entry of dstOrder is outside 0..2"};
+    case Check::kOperation:
+      return {kelStatusBadCompareOp, "cmpOp is neither kelCmpLess nor kelCmpGreater"};
+    case Check::kThresholds:
+      return {kelStatusBadThresholds, "not thresholdGT >= thresholdLT, in any channel"};
+    case Check::kBounds:
+      return {kelStatusBadRange, "lowerBound > upperBound in any channel"};
+    case Check::kEpsilon:
+      return {kelStatusBadEpsilon, "not eps >= 0"};
+    case Check::kChannels:
+      return {kelStatusOk, "of C3, AC4 and C4, channel by channel, kelStatusNullPointer if its histogram or its levels are null, kelStatusBadHistogramLevels if its nLevels is below 2"};
+    case Check::kLevels:
+      return {kelStatusBadHistogramLevels, "nLevels is below 2 (C1)"};
   }
   return {kelStatusOk, ""};
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cmath>
 #include <cstring>
 
 #include "support/test_call.h"
@@ -13,11 +14,10 @@ namespace {
 using registry::Argument;
 using registry::Check;
 using registry::Role;
+using registry::Type;
 using registry::Value;
 
-bool isPointer(const Argument& a) {
-  return registry::isImage(a.role) || a.length != 0 || a.role == Role::kStepOut;
-}
+using registry::isPointer;
 
 struct Fault {
   std::string what;
@@ -25,8 +25,8 @@ struct Fault {
   Value value;
 };
 
-// Arrays of planes of which one is null; kept for the run of the test.
-const void* withNullPlane(const Value& planes, int count, int null) {
+// Arrays of pointers (planes, histograms) of which one is null; kept for the run of the test.
+const void* withNull(const Value& planes, int count, int null) {
   static std::vector<std::unique_ptr<const void*[]>> kept;
   kept.push_back(std::make_unique<const void*[]>(4));
   for (int k = 0; k < count; ++k) {
@@ -36,13 +36,61 @@ const void* withNullPlane(const Value& planes, int count, int null) {
   return kept.back().get();
 }
 
-// Copies of constants of which one is zero; kept for the run of the test.
-const void* withZero(const Value& constants, std::size_t sample, int count, int zero) {
+// Copies of an array of values of which one is another; kept for the run of the test.
+const void* with(const Value& array, std::size_t sample, int count, int changed, const void* to) {
   static std::vector<std::vector<std::uint8_t>> kept;
-  const auto* from = static_cast<const std::uint8_t*>(constants.p);
+  const auto* from = static_cast<const std::uint8_t*>(array.p);
   kept.emplace_back(from, from + sample * static_cast<std::size_t>(count));
-  std::memset(kept.back().data() + sample * static_cast<std::size_t>(zero), 0, sample);
+  std::memcpy(kept.back().data() + sample * static_cast<std::size_t>(changed), to, sample);
   return kept.back().data();
+}
+
+// The number of channel k in an argument, as a double.
+double numberAt(const Argument& a, const Value& value, int k) {
+  if (a.length == 0) {
+    if (a.type == Type::k32f) return value.f;
+    return a.type == Type::k16s ? static_cast<Kel16s>(value.i) : static_cast<double>(value.i);
+  }
+  const auto read = [&](auto sample) {
+    std::memcpy(&sample, static_cast<const std::uint8_t*>(value.p) + k * sizeof(sample),
+                sizeof(sample));
+    return static_cast<double>(sample);
+  };
+  return a.type == Type::k8u    ? read(Kel8u{})
+         : a.type == Type::k16s ? read(Kel16s{})
+         : a.type == Type::k32f ? read(Kel32f{})
+                                : read(int{});
+}
+
+// Faults of a lower end: one above the upper end, which TestCall leaves room for.
+void addRangeFaults(const TestCall& call, std::size_t i, std::vector<Fault>& faults) {
+  const Argument& a = call.function.arguments[i];
+  const std::size_t other = call.find(Role::kUpper);
+  for (int k = 0; k < std::max(a.length, 1); ++k) {
+    const double upper = numberAt(call.function.arguments[other], call.values[other], k);
+    std::uint8_t sample[4];
+    const auto store = [&](auto above) { std::memcpy(sample, &above, sizeof(above)); };
+    if (a.type == Type::k8u) store(static_cast<Kel8u>(upper + 1));
+    if (a.type == Type::k16s) store(static_cast<Kel16s>(upper + 1));
+    if (a.type == Type::k32f) store(std::nextafter(static_cast<Kel32f>(upper), HUGE_VALF));
+    Value bad{};
+    if (a.length != 0) {
+      bad.p = with(call.values[i], registry::bytesOf(a.type), a.length, k, sample);
+    } else if (a.type == Type::k32f) {
+      bad.f = std::nextafter(static_cast<Kel32f>(upper), HUGE_VALF);
+    } else {
+      bad.i = static_cast<std::int64_t>(upper + 1);
+    }
+    faults.push_back({std::string(a.name) + " above the upper end", i, bad});
+  }
+}
+
+// How many pointers an argument's array holds, if it is one of pointers.
+int pointersIn(const Argument& a) {
+  if (registry::isImage(a.role)) return isPlanar(a.layout) ? usedChannels(a.layout) : 0;
+  const bool arrays =
+      a.role == Role::kCounts || a.role == Role::kLevels || a.role == Role::kLevelsOut;
+  return arrays ? a.length : 0;
 }
 
 std::vector<Fault> faultsOf(const TestCall& call) {
@@ -57,11 +105,8 @@ std::vector<Fault> faultsOf(const TestCall& call) {
       faults.push_back(fault);
     };
     if (isPointer(a)) add(" null", [](Value& v) { v.p = nullptr; });
-    if (registry::isImage(a.role) && isPlanar(a.layout)) {
-      for (int k = 0; k < usedChannels(a.layout); ++k) {
-        add(" with a null plane",
-            [&](Value& v) { v.p = withNullPlane(v, usedChannels(a.layout), k); });
-      }
+    for (int k = 0; k < pointersIn(a); ++k) {
+      add(" with a null", [&](Value& v) { v.p = withNull(v, pointersIn(a), k); });
     }
     if (a.role == Role::kStep) {
       for (const int bad : {0, -1, INT_MIN}) add(" bad", [&](Value& v) { v.i = bad; });
@@ -72,11 +117,28 @@ std::vector<Fault> faultsOf(const TestCall& call) {
         add(" height bad", [&](Value& v) { v.size.height = bad; });
       }
     }
-    if (a.role == Role::kConstant && checksDivisor(call.function)) {
+    static constexpr std::uint8_t kZero[8] = {};
+    if (a.role == Role::kConstant && checks(call.function, Check::kDivisor)) {
       if (a.length == 0) add(" zero", [](Value& v) { v = Value{}; });
       for (int k = 0; k < a.length; ++k) {
         add(" with a zero",
-            [&](Value& v) { v.p = withZero(v, registry::bytesOf(a.type), a.length, k); });
+            [&](Value& v) { v.p = with(v, registry::bytesOf(a.type), a.length, k, kZero); });
+      }
+    }
+    if (a.role == Role::kLower) addRangeFaults(call, i, faults);
+    if (a.role == Role::kTolerance) {
+      for (const double bad : {-1e-30, -HUGE_VAL, std::nan("")}) {
+        add(" bad", [&](Value& v) { v.f = bad; });
+      }
+    }
+    if (a.role == Role::kCompareOp && checks(call.function, Check::kOperation)) {
+      for (const int bad : {-1, 1, 2, 3, 5, INT_MIN}) add(" bad", [&](Value& v) { v.i = bad; });
+    }
+    if (a.role == Role::kLevelCount) {
+      for (const int bad : {1, 0, INT_MIN}) {
+        if (a.length == 0) add(" bad", [&](Value& v) { v.i = bad; });
+        for (int k = 0; k < a.length; ++k)
+          add(" with a bad one", [&](Value& v) { v.p = with(v, sizeof(bad), a.length, k, &bad); });
       }
     }
     if (a.role == Role::kOrder) {
@@ -91,8 +153,8 @@ bool nullAmong(const TestCall& call, const std::vector<Value>& values, bool cons
     const Argument& a = call.function.arguments[i];
     if (!isPointer(a) || registry::isConstant(a.role) != constants) continue;
     if (values[i].p == nullptr) return true;
-    if (!registry::isImage(a.role) || !isPlanar(a.layout)) continue;
-    for (int k = 0; k < usedChannels(a.layout); ++k) {
+    if (!registry::isImage(a.role)) continue;
+    for (int k = 0; k < pointersIn(a); ++k) {
       if (static_cast<const void* const*>(values[i].p)[k] == nullptr) return true;
     }
   }
@@ -131,6 +193,30 @@ bool zeroAmong(const TestCall& call, const std::vector<Value>& values) {
   });
 }
 
+bool rangeFails(const TestCall& call, const std::vector<Value>& values, bool nanFails) {
+  const std::size_t lower = call.find(Role::kLower), upper = call.find(Role::kUpper);
+  const Argument& a = call.function.arguments[lower];
+  for (int k = 0; k < std::max(a.length, 1); ++k) {
+    const double low = numberAt(a, values[lower], k), high = numberAt(a, values[upper], k);
+    if (low > high || (nanFails && !(low <= high))) return true;
+  }
+  return false;
+}
+
+// The code of the first channel of a histogram that has a fault.
+KelStatus channelStatus(const TestCall& call, const std::vector<Value>& values) {
+  const std::size_t count = call.find(Role::kLevelCount);
+  for (int k = 0; k < call.function.arguments[count].length; ++k) {
+    for (std::size_t i = 0; i < values.size(); ++i) {
+      const Argument& a = call.function.arguments[i];
+      if (registry::isImage(a.role) || pointersIn(a) == 0) continue;
+      if (static_cast<const void* const*>(values[i].p)[k] == nullptr) return -8;
+    }
+    if (numberAt(call.function.arguments[count], values[count], k) < 2) return -107;
+  }
+  return 0;
+}
+
 bool fails(const TestCall& call, const std::vector<Value>& values, Check check, bool lateValues) {
   switch (check) {
     case Check::kNull:
@@ -156,6 +242,21 @@ bool fails(const TestCall& call, const std::vector<Value>& values, Check check, 
         return order[0] < 0 || order[0] > 2 || order[1] < 0 || order[1] > 2 || order[2] < 0 ||
                order[2] > 2;
       });
+    case Check::kOperation:
+      return anyOf(call, Role::kCompareOp,
+                   [&](std::size_t i) { return values[i].i != 0 && values[i].i != 4; });
+    case Check::kThresholds:
+      return rangeFails(call, values, true);
+    case Check::kBounds:
+      return rangeFails(call, values, false);
+    case Check::kEpsilon:
+      return anyOf(call, Role::kTolerance, [&](std::size_t i) { return !(values[i].f >= 0); });
+    case Check::kChannels:
+      return channelStatus(call, values) != 0;
+    case Check::kLevels:
+      return anyOf(call, Role::kLevelCount, [&](std::size_t i) {
+        return call.function.arguments[i].length == 0 && values[i].i < 2;
+      });
   }
   return false;
 }
@@ -175,6 +276,18 @@ KelStatus codeOf(Check check) {
       return -14;
     case Check::kOrder:
       return -60;
+    case Check::kOperation:
+      return -9999;
+    case Check::kThresholds:
+      return -18;
+    case Check::kBounds:
+      return -7;
+    case Check::kEpsilon:
+      return -36;
+    case Check::kLevels:
+      return -107;
+    case Check::kChannels:
+      break;  // of several codes
   }
   return 0;
 }
@@ -183,7 +296,8 @@ KelStatus expectedStatus(const TestCall& call, const std::vector<Value>& values)
   bool lateValues = false;
   for (const Check check : call.function.entry->checks) lateValues |= check == Check::kValues;
   for (const Check check : call.function.entry->checks) {
-    if (fails(call, values, check, lateValues)) return codeOf(check);
+    if (!fails(call, values, check, lateValues)) continue;
+    return check == Check::kChannels ? channelStatus(call, values) : codeOf(check);
   }
   return 0;
 }

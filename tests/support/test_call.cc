@@ -64,6 +64,20 @@ bool isZero(Type type, const std::uint8_t* sample) {
   return true;
 }
 
+template <class T>
+bool isInner(const std::uint8_t* low, const std::uint8_t* high) {
+  T a, b;
+  std::memcpy(&a, low, sizeof(T));
+  std::memcpy(&b, high, sizeof(T));
+  return a > std::numeric_limits<T>::lowest() && a <= b && b < std::numeric_limits<T>::max();
+}
+
+bool isInnerRange(Type type, const std::uint8_t* low, const std::uint8_t* high) {
+  return type == Type::k8u    ? isInner<Kel8u>(low, high)
+         : type == Type::k16s ? isInner<Kel16s>(low, high)
+                              : isInner<Kel32f>(low, high);
+}
+
 // Arenas are kept for further calls: mapping memory is slow.
 class ArenaPool {
  public:
@@ -135,9 +149,9 @@ void fillSamples(Type type, std::uint8_t* p, std::size_t count, Random& random) 
   }
 }
 
-bool checksDivisor(const registry::Function& f) {
-  for (const registry::Check check : f.entry->checks) {
-    if (check == registry::Check::kDivisor) return true;
+bool checks(const registry::Function& f, registry::Check check) {
+  for (const registry::Check made : f.entry->checks) {
+    if (made == check) return true;
   }
   return false;
 }
@@ -145,11 +159,11 @@ bool checksDivisor(const registry::Function& f) {
 TestCall::TestCall(const registry::Function& f, const Geometry& g, std::uint64_t seed)
     : function(f), values(f.arguments.size), size_{g.width, g.height}, imageAt_(f.arguments.size) {
   Random random(seed);
+  for (int& count : levelCounts_) count = 2 + static_cast<int>(pick(random, 40));
   for (std::size_t i = 0; i < f.arguments.size; ++i) {
     const Argument& a = f.arguments[i];
     Value& v = values[i];
     v = Value{};
-    std::uint8_t constant[4 * 8] = {};
     const int order[3] = {static_cast<int>(pick(random, 3)), static_cast<int>(pick(random, 3)),
                           static_cast<int>(pick(random, 3))};
     if (registry::isImage(a.role)) {
@@ -166,26 +180,38 @@ TestCall::TestCall(const registry::Function& f, const Geometry& g, std::uint64_t
         break;
       case Role::kConstant:
       case Role::kShift:
+      case Role::kLower:
+      case Role::kUpper:
       case Role::kScalar:
-        fillSamples(a.type, constant, a.length != 0 ? static_cast<std::size_t>(a.length) : 1,
-                    random);
-        if (a.role == Role::kShift) keepSmall(constant, a.length, random);
-        for (std::size_t k = 0; checksDivisor(f) && k < 4; ++k) {
-          std::uint8_t* const sample = constant + k * registry::bytesOf(a.type);
-          while (isZero(a.type, sample)) fillSamples(a.type, sample, 1, random);
-        }
-        if (a.length != 0) {
-          addArray(i, static_cast<std::size_t>(a.length) * registry::bytesOf(a.type), g, constant);
-        } else if (a.type == Type::k32f) {
-          Kel32f sample;
-          std::memcpy(&sample, constant, sizeof(sample));
-          v.f = sample;
-        } else {
-          std::memcpy(&v, constant, registry::bytesOf(a.type));
-        }
+        addConstants(i, g, random);
         break;
       case Role::kScaleFactor:
         v.i = static_cast<std::int64_t>(pick(random, 9)) - 3;
+        break;
+      case Role::kTolerance:
+        v.f = static_cast<float>(pick(random, 100000)) / 16;
+        break;
+      case Role::kCompareOp:
+        v.i = static_cast<std::int64_t>(pick(random, 5));
+        if (checks(f, registry::Check::kOperation)) v.i = v.i % 2 * kelCmpGreater;
+        break;
+      case Role::kHint:
+        v.i = static_cast<std::int64_t>(pick(random, 4));
+        break;
+      case Role::kResult:
+        addResult(i, static_cast<std::size_t>(std::max(a.length, 1)) * registry::bytesOf(a.type),
+                  g);
+        break;
+      case Role::kCounts:
+      case Role::kLevels:
+      case Role::kLevelsOut:
+        addPerChannel(i, g, random);
+        break;
+      case Role::kLevelCount:
+        addNumbers(i, g, levelCounts_);
+        break;
+      case Role::kLevelBound:
+        addNumbers(i, g, {order[0] * 100, order[1] * 100, order[2] * 100, 300});
         break;
       case Role::kOrder:
         addArray(i, sizeof(order), g, order);
@@ -195,6 +221,77 @@ TestCall::TestCall(const registry::Function& f, const Geometry& g, std::uint64_t
     }
   }
   remember();
+}
+
+// Values of channels; those of a range's ends are in order, and short of the type's extremes.
+void TestCall::addConstants(std::size_t i, const Geometry& g, Random& random) {
+  const Argument& a = function.arguments[i];
+  const std::size_t bytes = registry::bytesOf(a.type);
+  const std::size_t count = static_cast<std::size_t>(std::max(a.length, 1));
+  std::uint8_t constant[4 * 8] = {};
+  fillSamples(a.type, constant, count, random);
+  if (a.role == Role::kShift) keepSmall(constant, a.length, random);
+  for (std::size_t k = 0; checks(function, registry::Check::kDivisor) && k < 4; ++k) {
+    while (isZero(a.type, constant + k * bytes))
+      fillSamples(a.type, constant + k * bytes, 1, random);
+  }
+  for (std::size_t k = 0; a.role == Role::kLower && k < count; ++k) {
+    do {
+      fillSamples(a.type, constant + k * bytes, 1, random);
+      fillSamples(a.type, upper_ + k * bytes, 1, random);
+    } while (!isInnerRange(a.type, constant + k * bytes, upper_ + k * bytes));
+  }
+  if (a.role == Role::kUpper) std::memcpy(constant, upper_, sizeof(constant));
+  if (a.length != 0) {
+    addArray(i, count * bytes, g, constant);
+  } else if (a.type == Type::k32f) {
+    Kel32f sample;
+    std::memcpy(&sample, constant, sizeof(sample));
+    values[i].f = sample;
+  } else {
+    std::memcpy(&values[i], constant, bytes);
+  }
+}
+
+void TestCall::addNumbers(std::size_t i, const Geometry& g, const int (&numbers)[4]) {
+  const int length = function.arguments[i].length;
+  if (length != 0) {
+    addArray(i, static_cast<std::size_t>(length) * sizeof(int), g, numbers);
+  } else {
+    values[i].i = numbers[0];
+  }
+}
+
+void TestCall::addResult(std::size_t i, std::size_t count, const Geometry& g) {
+  const std::vector<std::uint8_t> before(count, 0x5A);
+  results_.push_back({addArray(i, count, g, before.data()), count});
+}
+
+// Histograms and levels of each channel; levels rise from some point within the type's range.
+void TestCall::addPerChannel(std::size_t i, const Geometry& g, Random& random) {
+  const Argument& a = function.arguments[i];
+  auto arrays = std::make_unique<const void*[]>(4);
+  for (int k = 0; k < std::max(a.length, 1); ++k) {
+    const std::size_t levels = static_cast<std::size_t>(levelCounts_[k]);
+    if (a.role == Role::kLevels) {
+      std::vector<Kel32s> whole;
+      std::vector<Kel32f> real;
+      Kel32s level = static_cast<Kel32s>(pick(random, 60)) - 20;
+      for (std::size_t j = 0; j < levels; ++j, level += 1 + static_cast<Kel32s>(pick(random, 9))) {
+        whole.push_back(level);
+        real.push_back(static_cast<Kel32f>(level) * 100);
+      }
+      const void* const data =
+          a.type == Type::k32f ? static_cast<const void*>(real.data()) : whole.data();
+      addArray(i, levels * 4, g, data);
+    } else {
+      addResult(i, 4 * (levels - (a.role == Role::kCounts ? 1 : 0)), g);
+    }
+    arrays[static_cast<std::size_t>(k)] = values[i].p;
+  }
+  if (a.length == 0) return;
+  values[i].p = arrays.get();
+  planeArrays_.push_back(std::move(arrays));
 }
 
 std::uint8_t* TestCall::place(std::size_t count, const Geometry& g) {
@@ -252,10 +349,12 @@ void TestCall::addImage(std::size_t i, const Geometry& g, Random& random) {
   images_.push_back(image);
 }
 
-void TestCall::addArray(std::size_t i, std::size_t count, const Geometry& g, const void* data) {
+std::uint8_t* TestCall::addArray(std::size_t i, std::size_t count, const Geometry& g,
+                                 const void* data) {
   std::uint8_t* p = place(count, g);
   std::memcpy(p, data, count);
   values[i].p = p;
+  return p;
 }
 
 std::uint8_t* TestCall::planeOf(std::size_t argument, int plane) const {
@@ -284,6 +383,13 @@ std::size_t TestCall::written() const {
     if (registry::isWritten(function.arguments[image.argument].role)) return image.argument;
   }
   return npos;
+}
+
+std::vector<std::uint8_t> TestCall::outcome() const {
+  std::vector<std::uint8_t> all;
+  if (written() != npos) all = samples(written());
+  for (const Written& w : results_) all.insert(all.end(), w.data, w.data + w.size);
+  return all;
 }
 
 std::vector<std::uint8_t> TestCall::samples(std::size_t argument) const {
@@ -318,6 +424,9 @@ void TestCall::remember() {
 }
 
 bool TestCall::mayWrite(const std::uint8_t* p) const {
+  for (const Written& w : results_) {
+    if (p >= w.data && p < w.data + w.size) return true;
+  }
   for (const Image& image : images_) {
     if (!registry::isWritten(function.arguments[image.argument].role)) continue;
     for (const std::uint8_t* plane : image.planes) {

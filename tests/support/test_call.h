@@ -3,6 +3,7 @@
 // ask what was written.
 #pragma once
 
+#include <cstring>
 #include <memory>
 #include <string>
 #include <vector>
@@ -42,6 +43,16 @@ class TestCall {
   std::size_t lastSource() const;
   std::size_t written() const;
 
+  // All that the call writes: the samples of an image, and results.
+  std::vector<std::uint8_t> outcome() const;
+  // A result of channel k, or entry k of a histogram's one channel.
+  template <class T>
+  T result(std::size_t argument, std::size_t k = 0) const {
+    T value;
+    std::memcpy(&value, static_cast<const T*>(values[argument].p) + k, sizeof(T));
+    return value;
+  }
+
   // The samples of an image, row after row without what lies between.
   std::vector<std::uint8_t> samples(std::size_t argument) const;
   void setSamples(std::size_t argument, const std::vector<std::uint8_t>& samples);
@@ -64,7 +75,12 @@ class TestCall {
   };
 
   void addImage(std::size_t argument, const Geometry& g, Random& random);
-  void addArray(std::size_t argument, std::size_t count, const Geometry& g, const void* data);
+  std::uint8_t* addArray(std::size_t argument, std::size_t count, const Geometry& g,
+                         const void* data);
+  void addConstants(std::size_t argument, const Geometry& g, Random& random);
+  void addNumbers(std::size_t argument, const Geometry& g, const int (&numbers)[4]);
+  void addResult(std::size_t argument, std::size_t count, const Geometry& g);
+  void addPerChannel(std::size_t argument, const Geometry& g, Random& random);
   std::uint8_t* place(std::size_t count, const Geometry& g);
   bool mayWrite(const std::uint8_t* p) const;
   std::string changes(bool all) const;
@@ -75,10 +91,17 @@ class TestCall {
   std::vector<std::shared_ptr<Arena>> arenas_;
   std::vector<std::vector<std::uint8_t>> before_;
   std::vector<std::unique_ptr<const void*[]>> planeArrays_;
+  struct Written {
+    const std::uint8_t* data;
+    std::size_t size;
+  };
+  std::vector<Written> results_;
+  std::uint8_t upper_[4 * 8] = {};  // the upper ends of a range whose lower ones are drawn
+  int levelCounts_[4] = {};
 };
 
-// Whether a zero constant is an error.
-bool checksDivisor(const registry::Function& function);
+// Whether the function's entry names a check.
+bool checks(const registry::Function& function, registry::Check check);
 
 // Random samples, every now and then an extreme or special one.
 void fillSamples(registry::Type type, std::uint8_t* p, std::size_t count, Random& random);
