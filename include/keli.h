@@ -1843,6 +1843,477 @@ KELI_API KelStatus keliRShiftC_32s_C3IR(const uint32_t value[3], Kel32s* pSrcDst
 KELI_API KelStatus keliRShiftC_32s_C4IR(const uint32_t value[4], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
 KELI_API KelStatus keliRShiftC_32s_AC4IR(const uint32_t value[3], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
 
+/* ==== Sums, means, quality index ==== */
+
+/**
+ * Sums an image's samples, channel by channel.
+ *
+ *     sum = sum of src
+ *
+ * The exact sum, rounded once to double precision. One value for C1, an array of one for each
+ * channel otherwise: three for C3 and AC4, which leaves the fourth channel out, four for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSum_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f* pSum);
+KELI_API KelStatus keliSum_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pSum[3]);
+KELI_API KelStatus keliSum_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pSum[3]);
+KELI_API KelStatus keliSum_8u_C4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pSum[4]);
+KELI_API KelStatus keliSum_16s_C1R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f* pSum);
+KELI_API KelStatus keliSum_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pSum[3]);
+KELI_API KelStatus keliSum_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pSum[3]);
+KELI_API KelStatus keliSum_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pSum[4]);
+
+/**
+ * Sums a floating-point image's samples, channel by channel.
+ *
+ *     sum = sum of src
+ *
+ * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
+ * into one accumulator and those of odd columns into another, row after row, and adds the two
+ * at the end. Every other hint sums in single precision, in 96 partial sums of fixed places
+ * that are emptied into double precision; the result is the same for every step, processor and
+ * number of threads, and may differ from the accurate one in the last digits of single
+ * precision. A NaN among the samples makes the result NaN. One value for C1, an array of one
+ * for each channel otherwise: three for C3 and AC4, which leaves the fourth channel out, four
+ * for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliSum_32f_C1R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f* pSum, KelHintAlgorithm hint);
+KELI_API KelStatus keliSum_32f_C3R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pSum[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliSum_32f_AC4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pSum[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliSum_32f_C4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pSum[4], KelHintAlgorithm hint);
+
+/**
+ * The mean of an image's samples, channel by channel.
+ *
+ *     mean = (sum of src) / (width * height)
+ *
+ * The sum is that of Sum; C1 divides it by the number of pixels, the others multiply it by the
+ * number's reciprocal, so the last digit may differ. One value for C1, an array of one for each
+ * channel otherwise: three for C3 and AC4, which leaves the fourth channel out, four for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMean_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f* pMean);
+KELI_API KelStatus keliMean_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pMean[3]);
+KELI_API KelStatus keliMean_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pMean[3]);
+KELI_API KelStatus keliMean_8u_C4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pMean[4]);
+KELI_API KelStatus keliMean_16s_C1R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f* pMean);
+KELI_API KelStatus keliMean_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pMean[3]);
+KELI_API KelStatus keliMean_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pMean[3]);
+KELI_API KelStatus keliMean_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pMean[4]);
+
+/**
+ * The mean of a floating-point image's samples, channel by channel.
+ *
+ *     mean = (sum of src) / (width * height)
+ *
+ * The sum is that of Sum; C1 divides it by the number of pixels, the others multiply it by the
+ * number's reciprocal, so the last digit may differ. hint kelAlgHintAccurate sums in double
+ * precision: of each channel, samples of even columns into one accumulator and those of odd
+ * columns into another, row after row, and adds the two at the end. Every other hint sums in
+ * single precision, in 96 partial sums of fixed places that are emptied into double precision;
+ * the result is the same for every step, processor and number of threads, and may differ from
+ * the accurate one in the last digits of single precision. A NaN among the samples makes the
+ * result NaN. One value for C1, an array of one for each channel otherwise: three for C3 and
+ * AC4, which leaves the fourth channel out, four for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMean_32f_C1R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f* pMean, KelHintAlgorithm hint);
+KELI_API KelStatus keliMean_32f_C3R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pMean[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliMean_32f_AC4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pMean[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliMean_32f_C4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pMean[4], KelHintAlgorithm hint);
+
+/**
+ * The universal quality index of two images, channel by channel.
+ *
+ *     index = 4 Sxy mx my / ((Sxx + Syy) (mx^2 + my^2))
+ *
+ * Where mx and my are the means of src1 and src2, Sxy the sum of (src1 - mx) (src2 - my), and
+ * Sxx and Syy the sums of (src1 - mx)^2 and (src2 - my)^2: 1 for equal images that are not
+ * constant, less the more they differ in structure, brightness or contrast (Wang and Bovik: A
+ * Universal Image Quality Index, IEEE Signal Processing Letters, 2002). Means are in double
+ * precision, deviations and their products in single precision, sums of blocks of rows in both
+ * (the blocks depend on the height alone); the index is computed in double precision. A zero
+ * denominator is not looked for: two constant images give the NaN or infinity of the division.
+ * One value for C1, an array of three for C3 and AC4, which leaves the fourth channel out.
+ *
+ * On large regions the rows are shared out among threads, with the same results:
+ * keliQualityIndex_8u32f_C1R, keliQualityIndex_8u32f_C3R, keliQualityIndex_8u32f_AC4R,
+ * keliQualityIndex_32f_C1R, keliQualityIndex_32f_C3R, keliQualityIndex_32f_AC4R.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliQualityIndex_8u32f_C1R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel32f* pQualityIndex);
+KELI_API KelStatus keliQualityIndex_8u32f_C3R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel32f pQualityIndex[3]);
+KELI_API KelStatus keliQualityIndex_8u32f_AC4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel32f pQualityIndex[3]);
+KELI_API KelStatus keliQualityIndex_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel32f* pQualityIndex);
+KELI_API KelStatus keliQualityIndex_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel32f pQualityIndex[3]);
+KELI_API KelStatus keliQualityIndex_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel32f pQualityIndex[3]);
+
+/* ==== Norms ==== */
+
+/**
+ * The largest magnitude of an image's samples, channel by channel.
+ *
+ *     value = max |src|
+ *
+ * Integers are exact. 32f is single precision, widened. A NaN among the samples makes the
+ * result NaN. One value for C1, an array of one for each channel otherwise: three for C3 and
+ * AC4, which leaves the fourth channel out, four for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNorm_Inf_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNorm_Inf_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNorm_Inf_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNorm_Inf_8u_C4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[4]);
+KELI_API KelStatus keliNorm_Inf_16s_C1R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNorm_Inf_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNorm_Inf_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNorm_Inf_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[4]);
+KELI_API KelStatus keliNorm_Inf_32s_C1R(const Kel32s* pSrc, int srcStep, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNorm_Inf_32f_C1R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNorm_Inf_32f_C3R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNorm_Inf_32f_AC4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNorm_Inf_32f_C4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[4]);
+
+/**
+ * The sum of magnitudes of an image's samples, channel by channel.
+ *
+ *     value = sum of |src|
+ *
+ * The sum is exact, rounded once to double precision. One value for C1, an array of one for
+ * each channel otherwise: three for C3 and AC4, which leaves the fourth channel out, four for
+ * C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNorm_L1_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNorm_L1_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNorm_L1_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNorm_L1_8u_C4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[4]);
+KELI_API KelStatus keliNorm_L1_16s_C1R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNorm_L1_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNorm_L1_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNorm_L1_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[4]);
+
+/**
+ * The sum of magnitudes of an image's samples, channel by channel, of 32f.
+ *
+ *     value = sum of |src|
+ *
+ * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
+ * into one accumulator and those of odd columns into another, row after row, and adds the two
+ * at the end. Every other hint sums in single precision, in 96 partial sums of fixed places
+ * that are emptied into double precision; the result is the same for every step, processor and
+ * number of threads, and may differ from the accurate one in the last digits of single
+ * precision. A NaN among the samples makes the result NaN. One value for C1, an array of one
+ * for each channel otherwise: three for C3 and AC4, which leaves the fourth channel out, four
+ * for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNorm_L1_32f_C1R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f* pValue, KelHintAlgorithm hint);
+KELI_API KelStatus keliNorm_L1_32f_C3R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliNorm_L1_32f_AC4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliNorm_L1_32f_C4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[4], KelHintAlgorithm hint);
+
+/**
+ * The root of the sum of squares of an image's samples, channel by channel.
+ *
+ *     value = sqrt(sum of (src)^2)
+ *
+ * The sum is exact below 2^53, and rounded to double precision before the root. One value for
+ * C1, an array of one for each channel otherwise: three for C3 and AC4, which leaves the fourth
+ * channel out, four for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNorm_L2_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNorm_L2_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNorm_L2_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNorm_L2_8u_C4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[4]);
+KELI_API KelStatus keliNorm_L2_16s_C1R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNorm_L2_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNorm_L2_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNorm_L2_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[4]);
+
+/**
+ * The root of the sum of squares of an image's samples, channel by channel, of 32f.
+ *
+ *     value = sqrt(sum of (src)^2)
+ *
+ * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
+ * into one accumulator and those of odd columns into another, row after row, and adds the two
+ * at the end. Every other hint sums in single precision, in 96 partial sums of fixed places
+ * that are emptied into double precision; the result is the same for every step, processor and
+ * number of threads, and may differ from the accurate one in the last digits of single
+ * precision. A NaN among the samples makes the result NaN. One value for C1, an array of one
+ * for each channel otherwise: three for C3 and AC4, which leaves the fourth channel out, four
+ * for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNorm_L2_32f_C1R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f* pValue, KelHintAlgorithm hint);
+KELI_API KelStatus keliNorm_L2_32f_C3R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliNorm_L2_32f_AC4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliNorm_L2_32f_C4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel64f pValue[4], KelHintAlgorithm hint);
+
+/**
+ * The largest magnitude of the difference of two images, channel by channel.
+ *
+ *     value = max |src1 - src2|
+ *
+ * Integers are exact. 32f is single precision, widened. A NaN among the samples makes the
+ * result NaN. One value for C1, an array of one for each channel otherwise: three for C3 and
+ * AC4, which leaves the fourth channel out, four for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNormDiff_Inf_8u_C1R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNormDiff_Inf_8u_C3R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormDiff_Inf_8u_AC4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormDiff_Inf_8u_C4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4]);
+KELI_API KelStatus keliNormDiff_Inf_16s_C1R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNormDiff_Inf_16s_C3R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormDiff_Inf_16s_AC4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormDiff_Inf_16s_C4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4]);
+KELI_API KelStatus keliNormDiff_Inf_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNormDiff_Inf_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormDiff_Inf_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormDiff_Inf_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4]);
+
+/**
+ * The sum of magnitudes of the difference of two images, channel by channel.
+ *
+ *     value = sum of |src1 - src2|
+ *
+ * The sum is exact, rounded once to double precision. One value for C1, an array of one for
+ * each channel otherwise: three for C3 and AC4, which leaves the fourth channel out, four for
+ * C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNormDiff_L1_8u_C1R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNormDiff_L1_8u_C3R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormDiff_L1_8u_AC4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormDiff_L1_8u_C4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4]);
+KELI_API KelStatus keliNormDiff_L1_16s_C1R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNormDiff_L1_16s_C3R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormDiff_L1_16s_AC4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormDiff_L1_16s_C4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4]);
+
+/**
+ * The sum of magnitudes of the difference of two images, channel by channel, of 32f.
+ *
+ *     value = sum of |src1 - src2|
+ *
+ * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
+ * into one accumulator and those of odd columns into another, row after row, and adds the two
+ * at the end. Every other hint sums in single precision, in 96 partial sums of fixed places
+ * that are emptied into double precision; the result is the same for every step, processor and
+ * number of threads, and may differ from the accurate one in the last digits of single
+ * precision. Differences are formed in the precision of the sums. A NaN among the samples makes
+ * the result NaN. One value for C1, an array of one for each channel otherwise: three for C3
+ * and AC4, which leaves the fourth channel out, four for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNormDiff_L1_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue, KelHintAlgorithm hint);
+KELI_API KelStatus keliNormDiff_L1_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliNormDiff_L1_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliNormDiff_L1_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4], KelHintAlgorithm hint);
+
+/**
+ * The root of the sum of squares of the difference of two images, channel by channel.
+ *
+ *     value = sqrt(sum of (src1 - src2)^2)
+ *
+ * The sum is exact below 2^53, and rounded to double precision before the root. One value for
+ * C1, an array of one for each channel otherwise: three for C3 and AC4, which leaves the fourth
+ * channel out, four for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNormDiff_L2_8u_C1R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNormDiff_L2_8u_C3R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormDiff_L2_8u_AC4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormDiff_L2_8u_C4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4]);
+KELI_API KelStatus keliNormDiff_L2_16s_C1R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNormDiff_L2_16s_C3R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormDiff_L2_16s_AC4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormDiff_L2_16s_C4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4]);
+
+/**
+ * The root of the sum of squares of the difference of two images, channel by channel, of 32f.
+ *
+ *     value = sqrt(sum of (src1 - src2)^2)
+ *
+ * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
+ * into one accumulator and those of odd columns into another, row after row, and adds the two
+ * at the end. Every other hint sums in single precision, in 96 partial sums of fixed places
+ * that are emptied into double precision; the result is the same for every step, processor and
+ * number of threads, and may differ from the accurate one in the last digits of single
+ * precision. Differences are formed in the precision of the sums. A NaN among the samples makes
+ * the result NaN. One value for C1, an array of one for each channel otherwise: three for C3
+ * and AC4, which leaves the fourth channel out, four for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNormDiff_L2_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue, KelHintAlgorithm hint);
+KELI_API KelStatus keliNormDiff_L2_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliNormDiff_L2_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliNormDiff_L2_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4], KelHintAlgorithm hint);
+
+/**
+ * The largest magnitude of the difference of two images over that of the second, channel by
+ * channel.
+ *
+ *     value = max |src1 - src2| / max |src2|
+ *
+ * Integers are exact. 32f is single precision, widened. A NaN among the samples makes the
+ * result NaN. Where the norm of src2 is below the least normal double
+ * (2.2250738585072014e-308), or NaN, in any channel, no channel is divided: the values are
+ * those of NormDiff, and the status is kelStatusDivByZeroWarning. One value for C1, an array of
+ * one for each channel otherwise: three for C3 and AC4, which leaves the fourth channel out,
+ * four for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNormRel_Inf_8u_C1R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNormRel_Inf_8u_C3R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormRel_Inf_8u_AC4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormRel_Inf_8u_C4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4]);
+KELI_API KelStatus keliNormRel_Inf_16s_C1R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNormRel_Inf_16s_C3R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormRel_Inf_16s_AC4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormRel_Inf_16s_C4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4]);
+KELI_API KelStatus keliNormRel_Inf_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNormRel_Inf_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormRel_Inf_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormRel_Inf_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4]);
+
+/**
+ * The sum of magnitudes of the difference of two images over that of the second, channel by
+ * channel.
+ *
+ *     value = sum of |src1 - src2| / sum of |src2|
+ *
+ * The sum is exact, rounded once to double precision. Where the norm of src2 is below the least
+ * normal double (2.2250738585072014e-308), or NaN, in any channel, no channel is divided: the
+ * values are those of NormDiff, and the status is kelStatusDivByZeroWarning. One value for C1,
+ * an array of one for each channel otherwise: three for C3 and AC4, which leaves the fourth
+ * channel out, four for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNormRel_L1_8u_C1R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNormRel_L1_8u_C3R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormRel_L1_8u_AC4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormRel_L1_8u_C4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4]);
+KELI_API KelStatus keliNormRel_L1_16s_C1R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNormRel_L1_16s_C3R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormRel_L1_16s_AC4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormRel_L1_16s_C4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4]);
+
+/**
+ * The sum of magnitudes of the difference of two images over that of the second, channel by
+ * channel, of 32f.
+ *
+ *     value = sum of |src1 - src2| / sum of |src2|
+ *
+ * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
+ * into one accumulator and those of odd columns into another, row after row, and adds the two
+ * at the end. Every other hint sums in single precision, in 96 partial sums of fixed places
+ * that are emptied into double precision; the result is the same for every step, processor and
+ * number of threads, and may differ from the accurate one in the last digits of single
+ * precision. Differences are formed in the precision of the sums. A NaN among the samples makes
+ * the result NaN. Where the norm of src2 is below the least normal double
+ * (2.2250738585072014e-308), or NaN, in any channel, no channel is divided: the values are
+ * those of NormDiff, and the status is kelStatusDivByZeroWarning. One value for C1, an array of
+ * one for each channel otherwise: three for C3 and AC4, which leaves the fourth channel out,
+ * four for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNormRel_L1_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue, KelHintAlgorithm hint);
+KELI_API KelStatus keliNormRel_L1_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliNormRel_L1_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliNormRel_L1_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4], KelHintAlgorithm hint);
+
+/**
+ * The root of the sum of squares of the difference of two images over that of the second,
+ * channel by channel.
+ *
+ *     value = sqrt(sum of (src1 - src2)^2) / sqrt(sum of (src2)^2)
+ *
+ * The sum is exact below 2^53, and rounded to double precision before the root.
+ * keliNormRel_L2_16s_C1R takes one root of the quotient of the sums; the others divide the
+ * roots. Where the norm of src2 is below the least normal double (2.2250738585072014e-308), or
+ * NaN, in any channel, no channel is divided: the values are those of NormDiff, and the status
+ * is kelStatusDivByZeroWarning. One value for C1, an array of one for each channel otherwise:
+ * three for C3 and AC4, which leaves the fourth channel out, four for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNormRel_L2_8u_C1R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNormRel_L2_8u_C3R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormRel_L2_8u_AC4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormRel_L2_8u_C4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4]);
+KELI_API KelStatus keliNormRel_L2_16s_C1R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue);
+KELI_API KelStatus keliNormRel_L2_16s_C3R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormRel_L2_16s_AC4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3]);
+KELI_API KelStatus keliNormRel_L2_16s_C4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4]);
+
+/**
+ * The root of the sum of squares of the difference of two images over that of the second,
+ * channel by channel, of 32f.
+ *
+ *     value = sqrt(sum of (src1 - src2)^2) / sqrt(sum of (src2)^2)
+ *
+ * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
+ * into one accumulator and those of odd columns into another, row after row, and adds the two
+ * at the end. Every other hint sums in single precision, in 96 partial sums of fixed places
+ * that are emptied into double precision; the result is the same for every step, processor and
+ * number of threads, and may differ from the accurate one in the last digits of single
+ * precision. Differences are formed in the precision of the sums. A NaN among the samples makes
+ * the result NaN. Where the norm of src2 is below the least normal double
+ * (2.2250738585072014e-308), or NaN, in any channel, no channel is divided: the values are
+ * those of NormDiff, and the status is kelStatusDivByZeroWarning. One value for C1, an array of
+ * one for each channel otherwise: three for C3 and AC4, which leaves the fourth channel out,
+ * four for C4.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliNormRel_L2_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f* pValue, KelHintAlgorithm hint);
+KELI_API KelStatus keliNormRel_L2_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliNormRel_L2_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3], KelHintAlgorithm hint);
+KELI_API KelStatus keliNormRel_L2_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4], KelHintAlgorithm hint);
+
 #ifdef __cplusplus
 }
 #endif

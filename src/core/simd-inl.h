@@ -18,6 +18,16 @@
 #define KELI_LAMBDA HWY_ATTR __attribute__((always_inline))
 #endif
 
+// The library leaves out the dot products of bytes and words that all processors of this target
+// have, and that target.cc asks for.
+#if HWY_TARGET == HWY_AVX3_DL
+#undef HWY_TARGET_STR
+#define HWY_TARGET_STR                                            \
+  HWY_TARGET_STR_AVX3                                             \
+  ",vpclmulqdq,avx512vbmi,avx512vbmi2,vaes,avxvnni,avx512bitalg," \
+  "avx512vpopcntdq,avx512vnni"
+#endif
+
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
@@ -188,6 +198,10 @@ HWY_INLINE hn::Vec<DW> multiplyAddPairs([[maybe_unused]] DW dw, V a, V b) {
 #if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
   if constexpr (hn::MaxLanes(DW()) == 8) {
     return hn::Vec<DW>{_mm256_madd_epi16(a.raw, b.raw)};
+#if HWY_TARGET == HWY_AVX3_DL
+  } else if constexpr (hn::MaxLanes(DW()) == 16) {
+    return hn::Vec<DW>{_mm512_madd_epi16(a.raw, b.raw)};
+#endif
   } else {
     return hn::Vec<DW>{_mm_madd_epi16(a.raw, b.raw)};
   }
@@ -198,6 +212,31 @@ HWY_INLINE hn::Vec<DW> multiplyAddPairs([[maybe_unused]] DW dw, V a, V b) {
   return evenA * evenB + hn::ShiftRight<16>(wideA) * hn::ShiftRight<16>(wideB);
 #endif
 }
+
+// sum + a.even * b.even + a.odd * b.odd of each pair of 16-bit lanes.
+template <class DW, class V>
+HWY_INLINE hn::Vec<DW> addProductsOfPairs(DW dw, hn::Vec<DW> sum, V a, V b) {
+#if HWY_TARGET == HWY_AVX3_DL
+  if constexpr (hn::MaxLanes(DW()) == 16) {
+    return hn::Vec<DW>{_mm512_dpwssd_epi32(sum.raw, a.raw, b.raw)};
+  }
+#endif
+  return sum + multiplyAddPairs(dw, a, b);
+}
+
+// sum + a * b of each four bytes, those of a unsigned and those of b signed.
+#if HWY_TARGET == HWY_AVX3_DL
+constexpr bool kMultipliesBytes = true;
+template <class DW, class VU, class VI>
+HWY_INLINE hn::Vec<DW> addProductsOfFours(DW, hn::Vec<DW> sum, VU a, VI b) {
+  static_assert(hn::MaxLanes(DW()) == 16);
+  return hn::Vec<DW>{_mm512_dpbusd_epi32(sum.raw, a.raw, b.raw)};
+}
+#else
+constexpr bool kMultipliesBytes = false;
+template <class DW, class VU, class VI>
+hn::Vec<DW> addProductsOfFours(DW, hn::Vec<DW> sum, VU a, VI b);
+#endif
 
 // The lanes of even and odd by turns, signed 32-bit lanes saturated to 16 bits.
 template <class D, class V>

@@ -1,0 +1,232 @@
+// Sums, sums of magnitudes and of squares, and largest magnitudes of a region or of the difference
+// of two: one number for each channel.
+//
+// Integers are exact. 32f is summed in single precision (see FloatTotals), or in double precision
+// in a fixed order: of each channel, the samples of even columns into one accumulator and those of
+// odd columns into another, from row to row.
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <type_traits>
+
+#include "sums/totals.h"
+
+namespace keli::sums {
+
+enum class What { kSum, kL1, kL2, kInf };  // kL2: the sum of squares, whose root is the norm
+
+struct Results {
+  double value[4] = {};
+};
+
+// Arrays of results stand at any address.
+template <Layout kLayout, class T>
+void storeResults(const Results& results, T* to) {
+  for (int k = 0; k < usedChannels(kLayout); ++k) {
+    const T value = static_cast<T>(results.value[k]);
+    std::memcpy(to + k, &value, sizeof(T));
+  }
+}
+
+// ---- Totals of kernels ---------------------------------------------------------------------
+
+template <What kWhat, class T>
+using TotalsOf =
+    std::conditional_t<std::is_same_v<T, Kel32f> && kWhat != What::kInf, FloatTotals, Totals>;
+
+template <What kWhat, class T, Layout kLayout, int kSources>
+Kernel<kSources, TotalsOf<kWhat, T>> kernelOf() {
+  if constexpr (std::is_same_v<T, Kel32f>) {
+    const auto& kernels = [] {
+      if constexpr (kSources == 1) return floatsOfOne();
+      if constexpr (kSources == 2) return floatsOfTwo();
+    }();
+    if constexpr (kWhat == What::kSum) return kernels.sums;
+    if constexpr (kWhat == What::kL1) return kernels.magnitudes;
+    if constexpr (kWhat == What::kL2) return kernels.squares;
+    if constexpr (kWhat == What::kInf) return kernels.largest.template of<kLayout>();
+  } else if constexpr (std::is_same_v<T, Kel32s>) {
+    static_assert(kWhat == What::kInf && kSources == 1);
+    return largest32s().template of<kLayout>();
+  } else if constexpr (std::is_same_v<T, Kel16s> && kWhat == What::kSum) {
+    return signedSums().template of<kLayout>();
+  } else {
+    const auto& kernels = []() -> const auto& {
+      if constexpr (kSources == 1) return integersOfOne<T>();
+      if constexpr (kSources == 2) return integersOfTwo<T>();
+    }
+    ();
+    if constexpr (kWhat == What::kL2) return kernels.squares.template of<kLayout>();
+    if constexpr (kWhat == What::kInf) return kernels.largest.template of<kLayout>();
+    if constexpr (kWhat == What::kSum || kWhat == What::kL1)
+      return kernels.magnitudes.template of<kLayout>();
+  }
+}
+
+// NaNs of sums are all the same one, whatever met in them.
+inline double settled(double sum) {
+  return sum == sum ? sum : std::numeric_limits<double>::quiet_NaN();
+}
+
+template <What kWhat, class T, Layout kLayout>
+Results resultsOf(const Totals& totals) {
+  Results results;
+  for (int k = 0; k < usedChannels(kLayout); ++k) {
+    const std::uint64_t total = totals.value[k];
+    if constexpr (std::is_same_v<T, Kel32f>) {
+      const std::uint32_t bits = static_cast<std::uint32_t>(total);
+      float largest;
+      std::memcpy(&largest, &bits, sizeof(largest));
+      results.value[k] = settled(static_cast<double>(largest));
+    } else if constexpr (kWhat == What::kSum) {
+      results.value[k] = static_cast<double>(static_cast<std::int64_t>(total));
+    } else {
+      results.value[k] = static_cast<double>(total);
+    }
+  }
+  return results;
+}
+
+template <What kWhat, class T, Layout kLayout>
+Results resultsOf(FloatTotals& totals) {
+  constexpr std::size_t kStored = pixelSamples(kLayout);
+  totals.empty();
+  Results results;
+  for (std::size_t i = 0; i < FloatTotals::kLanes; ++i)
+    results.value[i % kStored] += totals.sums[i];
+  for (double& value : results.value) value = settled(value);
+  return results;
+}
+
+// Whether the totals take the samples of a row one after another whatever the rows: then a region
+// without padding is one long row.
+template <class Total>
+constexpr bool kJoinsRows = std::is_same_v<Total, Totals>;
+
+template <class T, class Total>
+Band<1> bandOf(const T* src, int srcStep, std::size_t n, int height) {
+  return kJoinsRows<Total> ? readBand(src, srcStep, n, height, sizeof(T))
+                           : makeBand(src, srcStep, nullptr, 0, n, height);
+}
+
+template <class T, class Total>
+Band<2> bandOf(const T* src1, int src1Step, const T* src2, int src2Step, std::size_t n,
+               int height) {
+  return kJoinsRows<Total> ? readBand(src1, src1Step, src2, src2Step, n, height, sizeof(T))
+                           : makeBand(src1, src1Step, src2, src2Step, nullptr, 0, n, height);
+}
+
+// ---- Double precision in a fixed order -----------------------------------------------------
+
+template <What kWhat>
+double summand(double v) {
+  return kWhat == What::kSum ? v : kWhat == What::kL1 ? std::fabs(v) : v * v;
+}
+
+// difference: of the sources, in double precision, or the one source's sample.
+template <What kWhat, Layout kLayout, class Sample>
+Results accurate(KeliSize size, const Sample& sample) {
+  constexpr std::size_t kStored = pixelSamples(kLayout), kUsed = usedChannels(kLayout);
+  const std::size_t width = static_cast<std::size_t>(size.width);
+  double even[kUsed] = {}, odd[kUsed] = {};
+  for (std::ptrdiff_t y = 0; y < size.height; ++y) {
+    const auto row = sample(y);
+    std::size_t x = 0;
+    for (; x + 2 <= width; x += 2) {
+      for (std::size_t k = 0; k < kUsed; ++k) {
+        even[k] += summand<kWhat>(row(x * kStored + k));
+        odd[k] += summand<kWhat>(row((x + 1) * kStored + k));
+      }
+    }
+    for (std::size_t k = 0; x < width && k < kUsed; ++k)
+      even[k] += summand<kWhat>(row(x * kStored + k));
+  }
+  Results results;
+  for (std::size_t k = 0; k < kUsed; ++k) results.value[k] = settled(odd[k] + even[k]);
+  return results;
+}
+
+inline double sampleAt(const std::uint8_t* row, std::size_t i) {
+  float v;
+  std::memcpy(&v, row + i * sizeof(float), sizeof(v));
+  return static_cast<double>(v);
+}
+
+// ---- Regions -------------------------------------------------------------------------------
+
+template <What kWhat, class T, Layout kLayout>
+Results reduce(const T* src, int srcStep, KeliSize size, KelHintAlgorithm hint) {
+  if constexpr (std::is_same_v<T, Kel32f> && kWhat != What::kInf) {
+    if (hint == kelAlgHintAccurate) {
+      return accurate<kWhat, kLayout>(size, [=](std::ptrdiff_t y) {
+        const std::uint8_t* const row = bytes(src) + y * srcStep;
+        return [row](std::size_t i) { return sampleAt(row, i); };
+      });
+    }
+  }
+  TotalsOf<kWhat, T> totals;
+  kernelOf<kWhat, T, kLayout, 1>()(
+      bandOf<T, decltype(totals)>(src, srcStep, rowSamples<kLayout>(size), size.height), totals);
+  return resultsOf<kWhat, T, kLayout>(totals);
+}
+
+// Of src1 - src2.
+template <What kWhat, class T, Layout kLayout>
+Results reduce(const T* src1, int src1Step, const T* src2, int src2Step, KeliSize size,
+               KelHintAlgorithm hint) {
+  if constexpr (std::is_same_v<T, Kel32f> && kWhat != What::kInf) {
+    if (hint == kelAlgHintAccurate) {
+      return accurate<kWhat, kLayout>(size, [=](std::ptrdiff_t y) {
+        const std::uint8_t* const a = bytes(src1) + y * src1Step;
+        const std::uint8_t* const b = bytes(src2) + y * src2Step;
+        return [a, b](std::size_t i) { return sampleAt(a, i) - sampleAt(b, i); };
+      });
+    }
+  }
+  TotalsOf<kWhat, T> totals;
+  kernelOf<kWhat, T, kLayout, 2>()(
+      bandOf<T, decltype(totals)>(src1, src1Step, src2, src2Step, rowSamples<kLayout>(size),
+                                  size.height),
+      totals);
+  return resultsOf<kWhat, T, kLayout>(totals);
+}
+
+// Both of the difference and of src2, whose rows the caches hold from the first to the second.
+struct Pair {
+  Results difference, second;
+};
+
+template <What kWhat, class T, Layout kLayout>
+Pair reducePair(const T* src1, int src1Step, const T* src2, int src2Step, KeliSize size,
+                KelHintAlgorithm hint) {
+  if constexpr (std::is_same_v<T, Kel32f> && kWhat != What::kInf) {
+    if (hint == kelAlgHintAccurate) {
+      return {reduce<kWhat, T, kLayout>(src1, src1Step, src2, src2Step, size, hint),
+              reduce<kWhat, T, kLayout>(src2, src2Step, size, hint)};
+    }
+  }
+  constexpr std::size_t kBytes = 16384;  // of a source's rows at a time
+  const std::size_t n = rowSamples<kLayout>(size);
+  const int rows = static_cast<int>(std::max<std::size_t>(kBytes / (n * sizeof(T)), 1));
+  TotalsOf<kWhat, T> difference, second;
+  using Total = decltype(second);
+  const auto ofTwo = kernelOf<kWhat, T, kLayout, 2>();
+  const auto ofOne = kernelOf<kWhat, T, kLayout, 1>();
+  for (int y = 0; y < size.height;) {
+    const int count = std::min(rows, size.height - y);
+    const auto rowOf = [y](const T* src, int step) {
+      return reinterpret_cast<const T*>(bytes(src) + static_cast<std::ptrdiff_t>(y) * step);
+    };
+    const T* const a = rowOf(src1, src1Step);
+    const T* const b = rowOf(src2, src2Step);
+    ofTwo(bandOf<T, Total>(a, src1Step, b, src2Step, n, count), difference);
+    ofOne(bandOf<T, Total>(b, src2Step, n, count), second);
+    y += count;
+  }
+  return {resultsOf<kWhat, T, kLayout>(difference), resultsOf<kWhat, T, kLayout>(second)};
+}
+
+}  // namespace keli::sums
