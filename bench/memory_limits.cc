@@ -148,7 +148,9 @@ __attribute__((target("avx512f"))) std::uint64_t readLongVectors(const std::uint
   constexpr std::size_t kLong = 64;
   __m512i sums[4] = {_mm512_setzero_si512(), _mm512_setzero_si512(), _mm512_setzero_si512(),
                      _mm512_setzero_si512()};
-  std::size_t i = 0;
+  const std::size_t head = (kLong - reinterpret_cast<std::uintptr_t>(from) % kLong) % kLong;
+  std::size_t i = std::min(head, bytes);  // loads across cache lines would be slower
+  const std::uint64_t first = readWords(from, i);
   for (; i + 4 * kLong <= bytes; i += 4 * kLong) {
     for (int k = 0; k < 4; ++k) {
       sums[k] = _mm512_add_epi64(sums[k], _mm512_loadu_si512(from + i + k * kLong));
@@ -158,7 +160,7 @@ __attribute__((target("avx512f"))) std::uint64_t readLongVectors(const std::uint
       _mm512_add_epi64(_mm512_add_epi64(sums[0], sums[1]), _mm512_add_epi64(sums[2], sums[3]));
   std::uint8_t lanes[kLong];
   _mm512_storeu_si512(lanes, sum);
-  return readWords(lanes, kLong) + readWords(from + i, bytes - i);
+  return first + readWords(lanes, kLong) + readWords(from + i, bytes - i);
 }
 
 bool hasVectors() { return __builtin_cpu_supports("avx2"); }

@@ -180,6 +180,27 @@ HWY_INLINE void store(T v, T* p) {
   std::memcpy(p, &v, sizeof(T));
 }
 
+// The first count samples from p on, fewer than a vector, and zeros.
+template <class D>
+HWY_INLINE hn::Vec<D> loadFirst(D d, const hn::TFromD<D>* p, std::size_t count) {
+#if HWY_TARGET == HWY_AVX3_DL
+  return hn::MaskedLoad(hn::FirstN(d, count), d, p);
+#else
+  HWY_ALIGN hn::TFromD<D> samples[hn::MaxLanes(D())] = {};
+  std::memcpy(samples, p, count * sizeof(hn::TFromD<D>));
+  return hn::Load(d, samples);
+#endif
+}
+
+// Keeps v in a register: compilers else load it again for every instruction that could take it from
+// memory.
+template <class V>
+HWY_INLINE void keepInRegister([[maybe_unused]] V& v) {
+#if HWY_TARGET == HWY_AVX3_DL
+  asm("" : "+v"(v.raw));
+#endif
+}
+
 // Calls f with the constants 0 .. kCount - 1: a loop whose index is a template argument.
 template <class F, std::size_t... I>
 HWY_INLINE void unrolledImpl(F&& f, std::index_sequence<I...>) {

@@ -8,7 +8,7 @@
 
 #include <cmath>
 
-#include "core/reduce-inl.h"
+#include "core/simd-inl.h"
 #include "sums/totals.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -16,7 +16,7 @@ namespace keli::HWY_NAMESPACE {
 
 // Term makes summands of the samples of one or two images; scalar() is the definition.
 #if HWY_TARGET == HWY_SCALAR
-template <class Term, class... TS>
+template <std::size_t kBytes, class Term, class... TS>
 struct Lanes {
   float* sum;
 
@@ -29,10 +29,10 @@ struct Lanes {
   }
 };
 #else
-template <class Term, class... TS>
+template <std::size_t kBytes, class Term, class... TS>
 struct Lanes {
   static constexpr std::size_t kLanes = sums::FloatTotals::kLanes;
-  using D = hn::CappedTag<float, 16>;
+  using D = hn::CappedTag<float, kBytes / sizeof(float)>;
   static constexpr std::size_t kN = hn::MaxLanes(D());
   static constexpr std::size_t kVectors = kLanes / kN;
 
@@ -59,7 +59,7 @@ struct Lanes {
         sum[u] = sum[u] + Term::vector(D(), hn::LoadU(D(), src + i)...);
         i += kN;
       } else if (i < n) {
-        sum[u] = sum[u] + Term::vector(D(), loadPadded(D(), src + i, n - i, 0.0f)...);
+        sum[u] = sum[u] + Term::vector(D(), loadFirst(D(), src + i, n - i)...);
         i = n;
       }
     });
@@ -68,12 +68,12 @@ struct Lanes {
 #endif
 
 // The row's samples in runs of so many rounds as the lanes have left.
-template <class Term, class... TS, std::size_t... S>
+template <std::size_t kBytes, class Term, class... TS, std::size_t... S>
 HWY_INLINE void addRowsToLanes(std::index_sequence<S...>, const Band<sizeof...(TS)>& b,
                                sums::FloatTotals& totals) {
   constexpr std::size_t kLanes = sums::FloatTotals::kLanes;
   constexpr std::size_t kRounds = sums::FloatTotals::kRounds;
-  Lanes<Term, TS...> lanes(totals);
+  Lanes<kBytes, Term, TS...> lanes(totals);
   for (std::size_t y = 0; y < b.rows; ++y) {
     for (std::size_t i = 0; i < b.n;) {
       const std::size_t n = std::min(b.n - i, (kRounds - totals.rounds) * kLanes);
@@ -90,9 +90,20 @@ HWY_INLINE void addRowsToLanes(std::index_sequence<S...>, const Band<sizeof...(T
   lanes.put(totals);
 }
 
+// Rows that do not all start cache lines are read in vectors of half a line: whole ones would lie
+// across two lines each.
 template <class Term, class... TS>
 HWY_INLINE void addToLanes(const Band<sizeof...(TS)>& b, sums::FloatTotals& totals) {
-  addRowsToLanes<Term, TS...>(std::index_sequence_for<TS...>(), b, totals);
+  constexpr std::index_sequence_for<TS...> kSources;
+  std::uintptr_t places = 0;
+  for (std::size_t i = 0; i < sizeof...(TS); ++i)
+    places |=
+        reinterpret_cast<std::uintptr_t>(b.src[i]) | static_cast<std::uintptr_t>(b.srcStep[i]);
+  if (HWY_MAX_BYTES == 64 && places % 64 == 0) {
+    addRowsToLanes<64, Term, TS...>(kSources, b, totals);
+  } else {
+    addRowsToLanes<32, Term, TS...>(kSources, b, totals);
+  }
 }
 
 }  // namespace keli::HWY_NAMESPACE

@@ -10,7 +10,7 @@
 #define HWY_TARGET_INCLUDE "sums/quality_rows.cc"
 #include <hwy/foreach_target.h>
 //
-#include "core/reduce-inl.h"
+#include "core/simd-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
@@ -51,15 +51,18 @@ void ownDoubleSums(const Band<1>& b, sums::DoubleLanes& lanes) {
   unrolled<kVectors>([&](auto u) KELI_LAMBDA { sum[u] = hn::Load(d, lanes.sums + u * kN); });
   for (std::size_t y = 0; y < b.rows; ++y) {
     const float* const row = b.srcRow<float>(0, y);
-    for (std::size_t i = 0; i < b.n;) {
+    std::size_t i = 0;
+    for (; i + kQualityLanes <= b.n; i += kQualityLanes) {
       unrolled<kVectors>([&](auto u) KELI_LAMBDA {
-        if (i >= b.n) return;
-        const auto v =
-            i + kN <= b.n ? hn::LoadU(df, row + i) : loadPadded(df, row + i, b.n - i, 0.f);
-        sum[u] = sum[u] + hn::PromoteTo(d, v);
-        i += kN;
+        sum[u] = sum[u] + hn::PromoteTo(d, hn::LoadU(df, row + i + u * kN));
       });
     }
+    unrolled<kVectors>([&](auto u) KELI_LAMBDA {
+      if (i >= b.n) return;
+      const auto v = i + kN <= b.n ? hn::LoadU(df, row + i) : loadFirst(df, row + i, b.n - i);
+      sum[u] = sum[u] + hn::PromoteTo(d, v);
+      i += kN;
+    });
   }
   unrolled<kVectors>([&](auto u) KELI_LAMBDA { hn::Store(sum[u], d, lanes.sums + u * kN); });
 }
@@ -69,8 +72,7 @@ template <class T>
 HWY_INLINE hn::Vec<FloatTag> loadFloats(const T* p, std::size_t count) {
   const FloatTag d;
   const hn::Rebind<T, FloatTag> dt;
-  const auto v =
-      count >= hn::MaxLanes(FloatTag()) ? hn::LoadU(dt, p) : loadPadded(dt, p, count, T{0});
+  const auto v = count >= hn::MaxLanes(FloatTag()) ? hn::LoadU(dt, p) : loadFirst(dt, p, count);
   if constexpr (sizeof(T) == 4) {
     return v;
   } else {
@@ -89,22 +91,27 @@ HWY_INLINE void addDeviations(std::size_t n, sums::Deviations& t, const T* src1,
     first[u] = hn::Load(d, t.ofFirst.lanes + u * kN);
     second[u] = hn::Load(d, t.ofSecond.lanes + u * kN);
   });
-  for (std::size_t i = 0; i < n;) {
+  const auto add = [&](auto u, auto dev1, auto dev2) KELI_LAMBDA {
+    both[u] = both[u] + dev1 * dev2;
+    first[u] = first[u] + dev1 * dev1;
+    second[u] = second[u] + dev2 * dev2;
+  };
+  const auto mean1 = [&](auto u) KELI_LAMBDA { return hn::Load(d, t.mean1 + u * kN); };
+  const auto mean2 = [&](auto u) KELI_LAMBDA { return hn::Load(d, t.mean2 + u * kN); };
+  std::size_t i = 0;
+  for (; i + kQualityLanes <= n; i += kQualityLanes) {
     unrolled<kVectors>([&](auto u) KELI_LAMBDA {
-      if (i >= n) return;
-      auto dev1 = loadFloats(src1 + i, n - i) - hn::Load(d, t.mean1 + u * kN);
-      auto dev2 = loadFloats(src2 + i, n - i) - hn::Load(d, t.mean2 + u * kN);
-      if (i + kN > n) {
-        const auto here = hn::FirstN(d, n - i);
-        dev1 = hn::IfThenElseZero(here, dev1);
-        dev2 = hn::IfThenElseZero(here, dev2);
-      }
-      both[u] = both[u] + dev1 * dev2;
-      first[u] = first[u] + dev1 * dev1;
-      second[u] = second[u] + dev2 * dev2;
-      i += kN;
+      add(u, loadFloats(src1 + i + u * kN, kN) - mean1(u),
+          loadFloats(src2 + i + u * kN, kN) - mean2(u));
     });
   }
+  unrolled<kVectors>([&](auto u) KELI_LAMBDA {
+    if (i >= n) return;
+    const auto here = hn::FirstN(d, n - i);
+    add(u, hn::IfThenElseZero(here, loadFloats(src1 + i, n - i) - mean1(u)),
+        hn::IfThenElseZero(here, loadFloats(src2 + i, n - i) - mean2(u)));
+    i += kN;
+  });
   unrolled<kVectors>([&](auto u) KELI_LAMBDA {
     hn::Store(both[u], d, t.ofBoth.lanes + u * kN);
     hn::Store(first[u], d, t.ofFirst.lanes + u * kN);

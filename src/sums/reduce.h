@@ -169,7 +169,7 @@ Results reduce(const T* src, int srcStep, KeliSize size, KelHintAlgorithm hint) 
   }
   TotalsOf<kWhat, T> totals;
   kernelOf<kWhat, T, kLayout, 1>()(
-      bandOf<T, decltype(totals)>(src, srcStep, rowSamples<kLayout>(size), size.height), totals);
+      bandOf<T, decltype(totals)>(src, srcStep, rowSamples<kLayout>(size), size.height), &totals);
   return resultsOf<kWhat, T, kLayout>(totals);
 }
 
@@ -190,43 +190,59 @@ Results reduce(const T* src1, int src1Step, const T* src2, int src2Step, KeliSiz
   kernelOf<kWhat, T, kLayout, 2>()(
       bandOf<T, decltype(totals)>(src1, src1Step, src2, src2Step, rowSamples<kLayout>(size),
                                   size.height),
-      totals);
+      &totals);
   return resultsOf<kWhat, T, kLayout>(totals);
 }
 
-// Both of the difference and of src2, whose rows the caches hold from the first to the second.
+// Both of the difference and of src2.
 struct Pair {
   Results difference, second;
 };
 
+// Integers: one kernel for both.
+template <What kWhat, class T, Layout kLayout>
+Pair reducePairOfIntegers(const Band<2>& b) {
+  const Integers<2>& kernels = integersOfBoth<T>();
+  const ByChannels<2>& kinds = kWhat == What::kL1   ? kernels.magnitudes
+                               : kWhat == What::kL2 ? kernels.squares
+                                                    : kernels.largest;
+  Totals totals[2];
+  kinds.template of<kLayout>()(b, totals);
+  return {resultsOf<kWhat, T, kLayout>(totals[0]), resultsOf<kWhat, T, kLayout>(totals[1])};
+}
+
+// 32f: two kernels by turns, so few rows at a time that src2's stay in the nearest cache.
+template <What kWhat, Layout kLayout>
+Pair reducePairOfFloats(const Band<2>& b) {
+  constexpr std::size_t kBytes = 16384;  // of a source's rows at a time
+  const std::size_t rows = std::max<std::size_t>(kBytes / (b.n * sizeof(Kel32f)), 1);
+  TotalsOf<kWhat, Kel32f> difference, second;
+  for (std::size_t y = 0; y < b.rows; y += rows) {
+    Band<2> both = b;
+    Band<1> one = {{}, {b.srcStep[1]}, nullptr, 0, b.n, 0, false};
+    for (int i = 0; i < 2; ++i) both.src[i] += static_cast<std::ptrdiff_t>(y) * b.srcStep[i];
+    one.src[0] = both.src[1];
+    one.rows = both.rows = std::min(rows, b.rows - y);
+    kernelOf<kWhat, Kel32f, kLayout, 2>()(both, &difference);
+    kernelOf<kWhat, Kel32f, kLayout, 1>()(one, &second);
+  }
+  return {resultsOf<kWhat, Kel32f, kLayout>(difference), resultsOf<kWhat, Kel32f, kLayout>(second)};
+}
+
 template <What kWhat, class T, Layout kLayout>
 Pair reducePair(const T* src1, int src1Step, const T* src2, int src2Step, KeliSize size,
                 KelHintAlgorithm hint) {
-  if constexpr (std::is_same_v<T, Kel32f> && kWhat != What::kInf) {
-    if (hint == kelAlgHintAccurate) {
-      return {reduce<kWhat, T, kLayout>(src1, src1Step, src2, src2Step, size, hint),
-              reduce<kWhat, T, kLayout>(src2, src2Step, size, hint)};
-    }
-  }
-  constexpr std::size_t kBytes = 16384;  // of a source's rows at a time
   const std::size_t n = rowSamples<kLayout>(size);
-  const int rows = static_cast<int>(std::max<std::size_t>(kBytes / (n * sizeof(T)), 1));
-  TotalsOf<kWhat, T> difference, second;
-  using Total = decltype(second);
-  const auto ofTwo = kernelOf<kWhat, T, kLayout, 2>();
-  const auto ofOne = kernelOf<kWhat, T, kLayout, 1>();
-  for (int y = 0; y < size.height;) {
-    const int count = std::min(rows, size.height - y);
-    const auto rowOf = [y](const T* src, int step) {
-      return reinterpret_cast<const T*>(bytes(src) + static_cast<std::ptrdiff_t>(y) * step);
-    };
-    const T* const a = rowOf(src1, src1Step);
-    const T* const b = rowOf(src2, src2Step);
-    ofTwo(bandOf<T, Total>(a, src1Step, b, src2Step, n, count), difference);
-    ofOne(bandOf<T, Total>(b, src2Step, n, count), second);
-    y += count;
+  if constexpr (!std::is_same_v<T, Kel32f>) {
+    return reducePairOfIntegers<kWhat, T, kLayout>(
+        bandOf<T, Totals>(src1, src1Step, src2, src2Step, n, size.height));
+  } else if (hint == kelAlgHintAccurate && kWhat != What::kInf) {
+    return {reduce<kWhat, T, kLayout>(src1, src1Step, src2, src2Step, size, hint),
+            reduce<kWhat, T, kLayout>(src2, src2Step, size, hint)};
+  } else {
+    return reducePairOfFloats<kWhat, kLayout>(
+        makeBand(src1, src1Step, src2, src2Step, nullptr, 0, n, size.height));
   }
-  return {resultsOf<kWhat, T, kLayout>(difference), resultsOf<kWhat, T, kLayout>(second)};
 }
 
 }  // namespace keli::sums

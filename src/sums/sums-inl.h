@@ -12,7 +12,7 @@
 #define KELI_SUMS_SUMS_INL_H_
 #endif
 
-#include "core/reduce-inl.h"
+#include "core/simd-inl.h"
 #include "sums/totals.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -62,6 +62,19 @@ struct Difference {
   template <class T>
   static HWY_INLINE auto scalar(T a, T b) {
     return static_cast<std::make_unsigned_t<T>>(a > b ? a - b : b - a);
+  }
+};
+
+// A term of one image, taken of the second of two.
+template <class Term>
+struct OfSecond {
+  template <class D>
+  static HWY_INLINE auto vector(D d, hn::Vec<D>, hn::Vec<D> b) {
+    return Term::vector(d, b);
+  }
+  template <class T>
+  static HWY_INLINE auto scalar(T, T b) {
+    return Term::scalar(b);
   }
 };
 
@@ -252,6 +265,7 @@ using SinkOf = std::conditional_t<
 template <class D>
 HWY_INLINE void sortThree(D d, hn::Vec<D> (&v)[3]) {
   constexpr std::size_t kN = hn::MaxLanes(D());
+  for (hn::Vec<D>& u : v) keepInRegister(u);
   const hn::Vec<D> a = v[0], b = v[1], c = v[2];
   unrolled<3>([&](auto k) KELI_LAMBDA {
     // Lanes j with (j + at) % 3 == k.
@@ -274,121 +288,205 @@ HWY_INLINE hn::Vec<D> sortFour(D d, hn::Vec<D> v) {
   return hn::BitCast(d, hn::TableLookupBytes(hn::BitCast(d8, v), places));
 }
 
-// Of images of kChannels stored channels (1, 3 or 4), one source for each of TS.
-template <class Kind, class Term, std::size_t kChannels, class... TS>
-struct Reduction {
-  using Sample = std::common_type_t<TS...>;
-  using Value = decltype(Term::scalar(TS()...));
+// Sinks of one term's values, and what they come to.
+template <class Kind, class Term, std::size_t kChannels, class D, class... TS>
+struct TermSinks {
+  using DV = hn::Rebind<decltype(Term::scalar(TS()...)), D>;
+  using Sink = SinkOf<Kind, DV>;
+  static constexpr std::size_t kN = hn::MaxLanes(D());
+  static constexpr std::size_t kVectors = kChannels == 3 ? 3 : 1;
+  static constexpr std::size_t kUnroll = kChannels == 3 ? 2 : 4;
+  static constexpr std::size_t kMost = Sink::kMost;
+
+  Sink sinks[kUnroll][kVectors];
+
+  HWY_INLINE TermSinks() {}
+
+  // src: kVectors vectors of each source.
+  template <class... Sources>
+  HWY_INLINE void add(std::size_t u, const Sources&... src) {
+    hn::Vec<DV> v[kVectors];
+    unrolled<kVectors>([&](auto k) KELI_LAMBDA { v[k] = Term::vector(D(), src[k]...); });
+    if constexpr (Sink::kSorts && kChannels == 3) sortThree(DV(), v);
+    if constexpr (Sink::kSorts && kChannels == 4) v[0] = sortFour(DV(), v[0]);
+    unrolled<kVectors>([&](auto k) KELI_LAMBDA { sinks[u][k].add(DV(), v[k]); });
+  }
+
+  // taken: vectors of each of the kVectors.
+  HWY_INLINE void drain(std::size_t taken, sums::Totals& totals) {
+    for (std::size_t u = 1; u < kUnroll; ++u) {
+      for (std::size_t k = 0; k < kVectors; ++k) sinks[0][k].merge(sinks[u][k]);
+    }
+    unrolled<kVectors>([&](auto k) KELI_LAMBDA {
+      sinks[0][k].each(taken, [&](std::size_t lane, auto value) KELI_LAMBDA {
+        const std::size_t channel = kChannels == 1   ? 0
+                                    : kChannels == 4 ? lane % 4
+                                    : Sink::kSorts   ? k
+                                                     : (k * kN + lane) % 3;
+        Kind::into(totals.value[channel], Added::of(value));
+      });
+    });
+    for (std::size_t u = 0; u < kUnroll; ++u) {
+      for (std::size_t k = 0; k < kVectors; ++k) sinks[u][k] = Sink();
+    }
+  }
 
   static HWY_INLINE void samples(std::size_t n, sums::Totals& totals, const TS*... src) {
     for (std::size_t i = 0; i < n; ++i)
       Kind::into(totals.value[i % kChannels], Kind::of(Term::scalar(load(src + i)...)));
   }
+};
 
-  template <class D>
+// In place of a second term.
+struct NoTerm {};
+template <class Kind, std::size_t kChannels, class D, class... TS>
+struct TermSinks<Kind, NoTerm, kChannels, D, TS...> {
+  static constexpr std::size_t kMost = ~std::size_t{0};
+  template <class... Sources>
+  HWY_INLINE void add(std::size_t, const Sources&...) {}
+  HWY_INLINE void drain(std::size_t, sums::Totals&) {}
+  static HWY_INLINE void samples(std::size_t, sums::Totals&, const TS*...) {}
+};
+
+// Of images of kChannels stored channels (1, 3 or 4), one source for each of TS, and of one term or
+// two; the totals of the second stand behind those of the first.
+template <class Kind, std::size_t kChannels, class Term1, class Term2, class... TS>
+struct Reduction {
+  using Sample = std::common_type_t<TS...>;
+  using D = hn::CappedTag<Sample, 64 / sizeof(Sample)>;
+  using First = TermSinks<Kind, Term1, kChannels, D, TS...>;
+  using Second = TermSinks<Kind, Term2, kChannels, D, TS...>;
+  static constexpr std::size_t kN = First::kN;
+  static constexpr std::size_t kVectors = First::kVectors;
+  static constexpr std::size_t kUnroll = First::kUnroll;
+  static constexpr std::size_t kStep = kVectors * kN;
+  static constexpr std::size_t kMost = std::min(First::kMost, Second::kMost);
+
+  First first;
+  Second second;
+  std::size_t taken;  // steps
+
+  HWY_INLINE Reduction() : taken(0) {}
+
   struct Vectors {
-    using DV = hn::Rebind<Value, D>;
-    using Sink = SinkOf<Kind, DV>;
-    static constexpr std::size_t kN = hn::MaxLanes(D());
-    static constexpr std::size_t kVectors = kChannels == 3 ? 3 : 1;
-    static constexpr std::size_t kUnroll = kChannels == 3 ? 2 : 4;
-    static constexpr std::size_t kStep = kVectors * kN;
-
-    Sink sinks[kUnroll][kVectors];
-    std::size_t taken;  // steps
-
-    HWY_INLINE Vectors() : taken(0) {}
-
-    // The samples from p on of which `rest` are left in the row, and zeros.
-    template <bool kWhole, class T>
-    static HWY_INLINE auto loadRest(const T* p, std::ptrdiff_t rest) {
-      const hn::Rebind<T, D> d;
-      if (kWhole || rest >= static_cast<std::ptrdiff_t>(kN)) return hn::LoadU(d, p);
-      if (rest <= 0) return hn::Zero(d);
-      return loadPadded(d, p, static_cast<std::size_t>(rest), T{0});
-    }
-
-    template <bool kWhole>
-    HWY_INLINE void step(Sink (&s)[kVectors], std::size_t rest, const TS*... src) {
-      hn::Vec<DV> v[kVectors];
-      unrolled<kVectors>([&](auto k) KELI_LAMBDA {
-        const std::ptrdiff_t left =
-            static_cast<std::ptrdiff_t>(rest) - static_cast<std::ptrdiff_t>(k * kN);
-        v[k] = Term::vector(D(), loadRest<kWhole>(src + k * kN, left)...);
-      });
-      if constexpr (Sink::kSorts && kChannels == 3) sortThree(DV(), v);
-      if constexpr (Sink::kSorts && kChannels == 4) v[0] = sortFour(DV(), v[0]);
-      unrolled<kVectors>([&](auto k) KELI_LAMBDA { s[k].add(DV(), v[k]); });
-    }
-
-    // At most as many samples as the sinks have room for.
-    HWY_INLINE void piece(std::size_t n, const TS*... src) {
-      std::size_t i = 0;
-      for (; i + kUnroll * kStep <= n; i += kUnroll * kStep) {
-        unrolled<kUnroll>([&](auto u)
-                              KELI_LAMBDA { step<true>(sinks[u], 0, (src + i + u * kStep)...); });
-      }
-      unrolled<kUnroll>([&](auto u) KELI_LAMBDA {
-        if (i + kStep <= n) {
-          step<true>(sinks[u], 0, (src + i)...);
-          i += kStep;
-        } else if (i < n) {
-          step<false>(sinks[u], n - i, (src + i)...);
-          i = n;
-        }
-      });
-      taken += (n + kStep - 1) / kStep;
-    }
-
-    HWY_INLINE void row(std::size_t n, sums::Totals& totals, const TS*... src) {
-      for (std::size_t i = 0; i < n;) {
-        const std::size_t here = std::min(n - i, (Sink::kMost - taken) * kStep);
-        piece(here, (src + i)...);
-        i += here;
-        if (taken == Sink::kMost) drain(totals);
-      }
-    }
-
-    HWY_INLINE void drain(sums::Totals& totals) {
-      for (std::size_t u = 1; u < kUnroll; ++u) {
-        for (std::size_t k = 0; k < kVectors; ++k) sinks[0][k].merge(sinks[u][k]);
-      }
-      unrolled<kVectors>([&](auto k) KELI_LAMBDA {
-        sinks[0][k].each(taken, [&](std::size_t lane, auto value) KELI_LAMBDA {
-          const std::size_t channel = kChannels == 1   ? 0
-                                      : kChannels == 4 ? lane % 4
-                                      : Sink::kSorts   ? k
-                                                       : (k * kN + lane) % 3;
-          Kind::into(totals.value[channel], Added::of(value));
-        });
-      });
-      *this = Vectors();
-    }
+    hn::Vec<D> v[kVectors];
+    HWY_INLINE const hn::Vec<D>& operator[](std::size_t k) const { return v[k]; }
   };
 
-  template <std::size_t... S>
-  static HWY_INLINE void rows(std::index_sequence<S...>, const Band<sizeof...(TS)>& b,
-                              sums::Totals& totals) {
-    if constexpr (kScalarTarget) {
-      for (std::size_t y = 0; y < b.rows; ++y) samples(b.n, totals, b.template srcRow<TS>(S, y)...);
-    } else {
-      Vectors<hn::CappedTag<Sample, 64 / sizeof(Sample)>> vectors;
-      for (std::size_t y = 0; y < b.rows; ++y)
-        vectors.row(b.n, totals, b.template srcRow<TS>(S, y)...);
-      vectors.drain(totals);
+  // The samples from p on of which `rest` are left in the row, and zeros.
+  template <bool kWhole>
+  static HWY_INLINE Vectors loadStep(const Sample* p, std::size_t rest) {
+    Vectors loaded;
+    unrolled<kVectors>([&](auto k) KELI_LAMBDA {
+      const std::size_t before = k * kN;
+      if (kWhole || rest >= before + kN) {
+        loaded.v[k] = hn::LoadU(D(), p + before);
+      } else if (rest <= before) {
+        loaded.v[k] = hn::Zero(D());
+      } else {
+        loaded.v[k] = loadFirst(D(), p + before, rest - before);
+      }
+    });
+    return loaded;
+  }
+
+  template <bool kWhole, std::size_t... S>
+  HWY_INLINE void step(std::index_sequence<S...>, std::size_t u, std::size_t rest,
+                       const TS*... src) {
+    const Vectors loaded[] = {loadStep<kWhole>(src, rest)...};
+    first.add(u, loaded[S]...);
+    second.add(u, loaded[S]...);
+  }
+
+  // At most as many samples as the sinks have room for.
+  HWY_INLINE void piece(std::size_t n, const TS*... src) {
+    constexpr std::index_sequence_for<TS...> kSources;
+    std::size_t i = 0;
+    for (; i + kUnroll * kStep <= n; i += kUnroll * kStep) {
+      unrolled<kUnroll>([&](auto u)
+                            KELI_LAMBDA { step<true>(kSources, u, 0, (src + i + u * kStep)...); });
     }
+    unrolled<kUnroll>([&](auto u) KELI_LAMBDA {
+      if (i + kStep <= n) {
+        step<true>(kSources, u, 0, (src + i)...);
+        i += kStep;
+      } else if (i < n) {
+        step<false>(kSources, u, n - i, (src + i)...);
+        i = n;
+      }
+    });
+    taken += (n + kStep - 1) / kStep;
+  }
+
+  // Loads across cache lines cost a third of the speed: a long row's first samples are set apart up
+  // to the first source's next line.
+  template <class... Others>
+  static HWY_INLINE std::size_t headOf(std::size_t n, const Sample* src, const Others*...) {
+    constexpr std::size_t kLong = 1024 / sizeof(Sample);
+    const std::size_t pixels = n / kChannels;
+    if (n < kLong) return 0;
+    const std::size_t head = unitsToLine(src, kChannels * sizeof(Sample), pixels);
+    return head < pixels ? head * kChannels : 0;
+  }
+
+  HWY_INLINE void row(std::size_t n, sums::Totals* totals, const TS*... src) {
+    const std::size_t head = headOf(n, src...);
+    for (std::size_t i = 0; i < n;) {
+      const std::size_t most = i == 0 && head != 0 ? head : n - i;
+      const std::size_t here = std::min(most, (kMost - taken) * kStep);
+      piece(here, (src + i)...);
+      i += here;
+      if (taken == kMost) drain(totals);
+    }
+  }
+
+  HWY_INLINE void drain(sums::Totals* totals) {
+    first.drain(taken, totals[0]);
+    second.drain(taken, totals[1]);
+    taken = 0;
   }
 };
 
-template <class Kind, class Term, std::size_t kChannels, class... TS>
-void ownReduction(const Band<sizeof...(TS)>& b, sums::Totals& totals) {
-  Reduction<Kind, Term, kChannels, TS...>::rows(std::index_sequence_for<TS...>(), b, totals);
+template <class Kind, std::size_t kChannels, class Term1, class Term2, class... TS,
+          std::size_t... S>
+HWY_INLINE void reduceBand(std::index_sequence<S...>, const Band<sizeof...(TS)>& b,
+                           sums::Totals* totals) {
+  if constexpr (kScalarTarget) {
+    using D = hn::CappedTag<std::uint8_t, 1>;
+    for (std::size_t y = 0; y < b.rows; ++y) {
+      TermSinks<Kind, Term1, kChannels, D, TS...>::samples(b.n, totals[0],
+                                                           b.template srcRow<TS>(S, y)...);
+      TermSinks<Kind, Term2, kChannels, D, TS...>::samples(b.n, totals[1],
+                                                           b.template srcRow<TS>(S, y)...);
+    }
+  } else {
+    Reduction<Kind, kChannels, Term1, Term2, TS...> reduction;
+    for (std::size_t y = 0; y < b.rows; ++y)
+      reduction.row(b.n, totals, b.template srcRow<TS>(S, y)...);
+    reduction.drain(totals);
+  }
+}
+
+template <class Kind, std::size_t kChannels, class Term, class... TS>
+void ownReduction(const Band<sizeof...(TS)>& b, sums::Totals* totals) {
+  reduceBand<Kind, kChannels, Term, NoTerm, TS...>(std::index_sequence_for<TS...>(), b, totals);
+}
+
+// Of differences, and of the second image alone.
+template <class Kind, std::size_t kChannels, class Term, class T>
+void ownRelative(const Band<2>& b, sums::Totals* totals) {
+  reduceBand<Kind, kChannels, Difference, OfSecond<Term>, T, T>(std::index_sequence<0, 1>(), b,
+                                                                totals);
 }
 
 template <class Kind, class Term, class... TS>
-constexpr sums::ByChannels<sizeof...(TS)> kReduction = {ownReduction<Kind, Term, 1, TS...>,
-                                                        ownReduction<Kind, Term, 3, TS...>,
-                                                        ownReduction<Kind, Term, 4, TS...>};
+constexpr sums::ByChannels<sizeof...(TS)> kReduction = {ownReduction<Kind, 1, Term, TS...>,
+                                                        ownReduction<Kind, 3, Term, TS...>,
+                                                        ownReduction<Kind, 4, Term, TS...>};
+
+template <class Kind, class Term, class T>
+constexpr sums::ByChannels<2> kRelative = {
+    ownRelative<Kind, 1, Term, T>, ownRelative<Kind, 3, Term, T>, ownRelative<Kind, 4, Term, T>};
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();

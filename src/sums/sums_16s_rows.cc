@@ -20,6 +20,9 @@ constexpr sums::Integers<1> kOfOne = {kReduction<Added, Magnitude, Kel16s>,
 constexpr sums::Integers<2> kOfTwo = {kReduction<Added, Difference, Kel16s, Kel16s>,
                                       kReduction<Squared, Difference, Kel16s, Kel16s>,
                                       kReduction<Largest, Difference, Kel16s, Kel16s>};
+constexpr sums::Integers<2> kOfBoth = {kRelative<Added, Magnitude, Kel16s>,
+                                       kRelative<Squared, Itself, Kel16s>,
+                                       kRelative<Largest, Magnitude, Kel16s>};
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
@@ -31,5 +34,7 @@ template <>
 KELI_SELECT_ROWS(Integers<1>, kOfOne, integersOfOne<Kel16s>)
 template <>
 KELI_SELECT_ROWS(Integers<2>, kOfTwo, integersOfTwo<Kel16s>)
+template <>
+KELI_SELECT_ROWS(Integers<2>, kOfBoth, integersOfBoth<Kel16s>)
 }  // namespace keli::sums
 #endif

@@ -65,12 +65,12 @@ struct FloatBits {
 };
 
 template <class Term>
-void ownLanes(const Band<1>& b, sums::FloatTotals& totals) {
-  addToLanes<Term, float>(b, totals);
+void ownLanes(const Band<1>& b, sums::FloatTotals* totals) {
+  addToLanes<Term, float>(b, *totals);
 }
 template <class Term>
-void ownLanesOfTwo(const Band<2>& b, sums::FloatTotals& totals) {
-  addToLanes<Term, float, float>(b, totals);
+void ownLanesOfTwo(const Band<2>& b, sums::FloatTotals* totals) {
+  addToLanes<Term, float, float>(b, *totals);
 }
 
 constexpr sums::Floats<1> kOfOne = {ownLanes<FloatItself>, ownLanes<FloatMagnitude>,
@@ -78,7 +78,7 @@ constexpr sums::Floats<1> kOfOne = {ownLanes<FloatItself>, ownLanes<FloatMagnitu
 constexpr sums::Floats<2> kOfTwo = {nullptr, ownLanesOfTwo<FloatMagnitude>,
                                     ownLanesOfTwo<FloatSquare>,
                                     kReduction<Largest, FloatBits, float, float>};
-constexpr sums::ByChannels<1> kLargest32s = {ownReduction<Largest, Magnitude, 1, std::int32_t>,
+constexpr sums::ByChannels<1> kLargest32s = {ownReduction<Largest, 1, Magnitude, std::int32_t>,
                                              nullptr, nullptr};
 
 }  // namespace keli::HWY_NAMESPACE

@@ -18,6 +18,9 @@ constexpr sums::Integers<1> kOfOne = {kReduction<Added, Magnitude, Kel8u>,
 constexpr sums::Integers<2> kOfTwo = {kReduction<Added, Difference, Kel8u, Kel8u>,
                                       kReduction<Squared, Difference, Kel8u, Kel8u>,
                                       kReduction<Largest, Difference, Kel8u, Kel8u>};
+constexpr sums::Integers<2> kOfBoth = {kRelative<Added, Magnitude, Kel8u>,
+                                       kRelative<Squared, Magnitude, Kel8u>,
+                                       kRelative<Largest, Magnitude, Kel8u>};
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
@@ -28,5 +31,7 @@ template <>
 KELI_SELECT_ROWS(Integers<1>, kOfOne, integersOfOne<Kel8u>)
 template <>
 KELI_SELECT_ROWS(Integers<2>, kOfTwo, integersOfTwo<Kel8u>)
+template <>
+KELI_SELECT_ROWS(Integers<2>, kOfBoth, integersOfBoth<Kel8u>)
 }  // namespace keli::sums
 #endif

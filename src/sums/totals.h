@@ -37,8 +37,9 @@ struct FloatTotals {
   }
 };
 
+// Kernels that reduce to two numbers a channel take two totals.
 template <int kSources, class Total>
-using Kernel = void (*)(const Band<kSources>& b, Total& totals);
+using Kernel = void (*)(const Band<kSources>& b, Total* totals);
 
 // A kernel for each number of stored channels that it tells apart.
 template <int kSources>
@@ -62,6 +63,9 @@ template <class T>
 const Integers<1>& integersOfOne();
 template <class T>
 const Integers<2>& integersOfTwo();
+// Of the difference, and of src2.
+template <class T>
+const Integers<2>& integersOfBoth();
 // Of signed samples; those of unsigned ones are their magnitudes.
 const ByChannels<1>& signedSums();
 
