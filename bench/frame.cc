@@ -38,11 +38,10 @@ double latticeValue(std::uint64_t seed, int x, int y) {
   return static_cast<double>(nextRandom(&state) >> 11) / 9007199254740992.0;
 }
 
-// Calls body(x, y, value) for all pixels, with values between those of the corners of 16-pixel
-// cells.
-template <class Body>
+// Calls body(x, y, value) for all pixels, with values between those of the corners of cells of so
+// many pixels.
+template <int kCell, class Body>
 void forLattice(std::uint64_t seed, Size size, const Body& body) {
-  constexpr int kCell = 16;
   for (int y = 0; y < size.height; ++y) {
     const double fy = static_cast<double>(y % kCell) / kCell;
     double left = 0;
@@ -128,22 +127,24 @@ void Image::fillBytes(std::uint8_t value) const {
 
 // Runs of both values as in real masks.
 void Image::fillBlobs(std::uint64_t seed) const {
-  forLattice(seed, size_, [&](int x, int y, double value) {
+  forLattice<16>(seed, size_, [&](int x, int y, double value) {
     data()[static_cast<std::size_t>(step_) * y + x] = value >= 0.5 ? 255 : 0;
   });
 }
 
-// Every channel another landscape, with noise of up to 1 % of the range of values.
+// Every channel another landscape, with noise of up to 1 % of the range of values: a fifth of the
+// bytes equal the next, as in the photographs of examples/images.
 void Image::fillPhotograph(std::uint64_t seed, const Choices& choices) const {
   const double least = leastSample(type_), range = mostSample(type_, choices) - least;
   const int samples = samplesPerPixel();
   std::uint64_t noise = seed;
   for (int k = 0; k < samples; ++k) {
-    forLattice(seed + 10 * static_cast<std::uint64_t>(k), size_, [&](int x, int y, double value) {
-      value = 0.99 * value + 0.01 * static_cast<double>(nextRandom(&noise) >> 40) / (1 << 24);
-      storeSample(type_, data() + static_cast<std::size_t>(step_) * y,
-                  static_cast<std::size_t>(samples) * x + k, std::floor(least + range * value));
-    });
+    forLattice<64>(
+        seed + 10 * static_cast<std::uint64_t>(k), size_, [&](int x, int y, double value) {
+          value = 0.99 * value + 0.01 * static_cast<double>(nextRandom(&noise) >> 40) / (1 << 24);
+          storeSample(type_, data() + static_cast<std::size_t>(step_) * y,
+                      static_cast<std::size_t>(samples) * x + k, std::floor(least + range * value));
+        });
   }
 }
 

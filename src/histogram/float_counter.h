@@ -13,13 +13,15 @@ class FloatCounter {
   static constexpr bool kNeedsMemory = false;
   static constexpr bool kNeedsOrder = true;
 
+  template <std::size_t>
   static std::size_t memoryFor(std::size_t bins, std::uint64_t pixels, bool increasing) {
     if (!increasing || bins > kMostBins || pixels < bins) return 0;
     return treeBytes(bins) + kTables * (bins + 1) * sizeof(std::uint32_t);
   }
 
   // Without memory it counts all the same, more slowly.
-  void prepare(const Bins<Level>& bins, std::uint64_t, bool increasing, void* memory) {
+  template <std::size_t>
+  void prepare(const Bins<Level>& bins, const Band<1>&, bool increasing, void* memory) {
     bins_ = bins;
     increasing_ = increasing;
     nodes_ = static_cast<Kel32f*>(memory);

@@ -13,8 +13,8 @@ namespace keli::histogram {
 //   Level                      the type of its levels
 //   kNeedsMemory               whether it fails without the memory that it wants
 //   kNeedsOrder                whether it wants to know if the levels increase
-//   memoryFor(bins, pixels, increasing)   how many bytes it wants, 0 for none
-//   prepare(bins, pixels, increasing, memory)
+//   memoryFor<stride>(bins, pixels, increasing)   how many bytes it wants, 0 for none
+//   prepare<stride>(bins, band, increasing, memory)   the band is what will be counted
 //   begin(), count<stride>(band), end()   of a chunk of fewer than 2^32 pixels: end() adds what
 //                              count() has found to the bins
 template <class T>
@@ -42,10 +42,17 @@ struct Plan {
   std::size_t bytes[kChannels];
 };
 
+// The band of one channel's samples.
+template <class T>
+Band<1> channelBand(const T* src, int srcStep, int channel, std::size_t width, std::size_t rows) {
+  const std::uint8_t* const first = bytes(src) + static_cast<std::size_t>(channel) * sizeof(T);
+  return makeBand(first, srcStep, nullptr, 0, width, static_cast<int>(rows));
+}
+
 // All rows, channel by channel in blocks that stay in the second-level cache.
 template <class T, Layout kLayout>
-void countBlock(const T* src, int srcStep, std::size_t width, std::size_t rows,
-                Counter<T>* counters) {
+void countBlocks(const T* src, int srcStep, std::size_t width, std::size_t rows,
+                 Counter<T>* counters) {
   constexpr std::size_t kStride = pixelSamples(kLayout);
   if constexpr (kStride == 1) {
     counters[0].template count<1>(readBand(src, srcStep, width, static_cast<int>(rows), sizeof(T)));
@@ -57,8 +64,7 @@ void countBlock(const T* src, int srcStep, std::size_t width, std::size_t rows,
       const std::uint8_t* const first = bytes(src) + static_cast<std::ptrdiff_t>(y) * srcStep;
       for (int k = 0; k < usedChannels(kLayout); ++k) {
         counters[k].template count<kStride>(
-            makeBand(first + static_cast<std::size_t>(k) * sizeof(T), srcStep, nullptr, 0, width,
-                     static_cast<int>(count)));
+            channelBand(reinterpret_cast<const T*>(first), srcStep, k, width, count));
       }
     }
   }
@@ -74,7 +80,7 @@ void countRows(const T* src, int srcStep, KeliSize size, Counter<T>* counters) {
   for (std::size_t y = 0; y < height; y += most) {
     const std::size_t rows = height - y < most ? height - y : most;
     for (int k = 0; k < usedChannels(kLayout); ++k) counters[k].begin();
-    countBlock<T, kLayout>(reinterpret_cast<const T*>(row), srcStep, width, rows, counters);
+    countBlocks<T, kLayout>(reinterpret_cast<const T*>(row), srcStep, width, rows, counters);
     for (int k = 0; k < usedChannels(kLayout); ++k) counters[k].end();
     row += static_cast<std::ptrdiff_t>(rows) * srcStep;
   }
@@ -85,11 +91,12 @@ template <class T, Layout kLayout, class Level, int kChannels, class WriteLevels
 KelStatus countAll(const T* src, int srcStep, KeliSize size, Plan<Level, kChannels>& plan,
                    const WriteLevels& writeLevels) {
   static_assert(kChannels == usedChannels(kLayout));
-  constexpr std::size_t kAlignment = core::kAlignment;
+  constexpr std::size_t kAlignment = core::kAlignment, kStride = pixelSamples(kLayout);
   const std::uint64_t pixels = pixelsOf(size);
   std::size_t sum = 0;
   for (int k = 0; k < kChannels; ++k) {
-    const std::size_t wanted = Counter<T>::memoryFor(plan.bins[k].size, pixels, plan.increasing[k]);
+    const std::size_t wanted =
+        Counter<T>::template memoryFor<kStride>(plan.bins[k].size, pixels, plan.increasing[k]);
     plan.bytes[k] = (wanted + kAlignment - 1) / kAlignment * kAlignment;
     sum += plan.bytes[k];
   }
@@ -101,7 +108,11 @@ KelStatus countAll(const T* src, int srcStep, KeliSize size, Plan<Level, kChanne
   for (int k = 0; k < kChannels; ++k) {
     plan.bins[k].clear();
     const bool has = memory != nullptr && plan.bytes[k] != 0;
-    counters[k].prepare(plan.bins[k], pixels, plan.increasing[k], has ? memory : nullptr);
+    counters[k].template prepare<kStride>(
+        plan.bins[k],
+        channelBand(src, srcStep, k, static_cast<std::size_t>(size.width),
+                    static_cast<std::size_t>(size.height)),
+        plan.increasing[k], has ? memory : nullptr);
     if (has) memory += plan.bytes[k];
   }
   countRows<T, kLayout>(src, srcStep, size, counters);

@@ -13,6 +13,7 @@ class WordCounter {
   static constexpr bool kNeedsMemory = true;
   static constexpr bool kNeedsOrder = true;
 
+  template <std::size_t>
   static std::size_t memoryFor(std::size_t bins, std::uint64_t pixels, bool increasing) {
     switch (methodFor(bins, pixels, increasing)) {
       case Method::kBinOfValue:
@@ -24,9 +25,10 @@ class WordCounter {
     }
   }
 
-  void prepare(const Bins<Level>& bins, std::uint64_t pixels, bool increasing, void* memory) {
+  template <std::size_t>
+  void prepare(const Bins<Level>& bins, const Band<1>& b, bool increasing, void* memory) {
     bins_ = bins;
-    method_ = methodFor(bins.size, pixels, increasing);
+    method_ = methodFor(bins.size, std::uint64_t{b.n} * b.rows, increasing);
     counters_ = static_cast<std::uint32_t*>(memory);
     if (method_ != Method::kBinOfValue) return;
     binOfValue_ = static_cast<std::uint8_t*>(memory) + tablesBytes(bins.size);

@@ -367,6 +367,41 @@ TEST(Histogram, EvenLevelsAndTheirCounts) {
   EXPECT_EQ(members, 8);
 }
 
+// ---- Large images of bytes ----------------------------------------------------------------------
+
+// Counted in ways that depend on what is in them: smooth, flat, in between, and neither.
+TEST(Histogram, CountsOfLargeImagesOfBytes) {
+  constexpr int kWidth = 601, kHeight = 230;
+  Random random(runSeed());
+  std::vector<int> levels(257), counts(256);
+  for (int v = 0; v < 257; ++v) levels[static_cast<std::size_t>(v)] = v;
+  for (const int padding : {0, 3}) {
+    for (const int noise : {1, 2, 5, 256}) {
+      for (const int flatColumns : {0, 100, 400, kWidth}) {
+        const std::size_t step = kWidth + static_cast<std::size_t>(padding);
+        std::vector<Kel8u> image(step * kHeight, 77);
+        std::vector<int> expected(256);
+        for (std::size_t y = 0; y < kHeight; ++y) {
+          for (std::size_t x = 0; x < kWidth; ++x) {
+            Kel8u& v = image[y * step + x];
+            if (x >= static_cast<std::size_t>(flatColumns))
+              v = static_cast<Kel8u>(x / 3 + y / 5 + pick(random, static_cast<std::size_t>(noise)));
+            ++expected[v];
+          }
+        }
+        for (const std::int64_t target : testedTargets()) {
+          const UseTarget use(target);
+          ASSERT_EQ(keliHistogramRange_8u_C1R(image.data(), static_cast<int>(step),
+                                              {kWidth, kHeight}, counts.data(), levels.data(), 257),
+                    kelStatusOk);
+          ASSERT_EQ(counts, expected) << targetName(target) << " noise " << noise << ", "
+                                      << flatColumns << " flat columns, padding " << padding;
+        }
+      }
+    }
+  }
+}
+
 // ---- Many pixels --------------------------------------------------------------------------------
 
 // More pixels than 32 bits count, in rows that share their memory but for one byte.
