@@ -33,7 +33,7 @@ struct Entries {
   HWY_INLINE Entries(D d, const Kel32f* entries) : table(hn::LoadU(d, entries)) {}
   template <class V>
   HWY_INLINE hn::Vec<D> operator()(D d, V indices) const {
-    return hn::TableLookupLanes(table, hn::IndicesFromVec(d, indices));
+    return lookUpFloats(d, table, indices);
   }
 };
 
@@ -66,7 +66,7 @@ struct Entries<D, kEntries, false> {
 
 // Node 2 j or 2 j + 1 of the next depth.
 template <class D, class VI>
-HWY_INLINE VI descend(D d, VI j, hn::Vec<D> v, hn::Vec<D> nodes) {
+HWY_INLINE VI descend(D, VI j, hn::Vec<D> v, hn::Vec<D> nodes) {
   const hn::RebindToSigned<D> di;
   return hn::Sub(hn::Add(j, j), hn::VecFromMask(di, hn::RebindMask(di, v >= nodes)));
 }
@@ -95,13 +95,20 @@ struct Crown<D, 0> {
   }
 };
 
-// Every kStride-th sample.
+// Every kStride-th sample, of an image at any address.
 template <std::size_t kStride, class D>
 HWY_INLINE hn::Vec<D> loadEach(D d, const Kel32f* values) {
-  if constexpr (kStride == 1) return hn::LoadU(d, values);
-  const hn::RebindToSigned<D> di;
-  const auto at = hn::Mul(hn::Iota(di, 0), hn::Set(di, static_cast<std::int32_t>(kStride)));
-  return hn::GatherIndex(d, values, at);
+  if constexpr (kStride == 1) {
+    return hn::LoadU(d, values);
+  } else if constexpr (hn::MaxLanes(D()) <= 4) {  // targets without gathers
+    HWY_ALIGN Kel32f lanes[hn::MaxLanes(D())];
+    for (std::size_t i = 0; i < hn::MaxLanes(D()); ++i) lanes[i] = load(values + i * kStride);
+    return hn::Load(d, lanes);
+  } else {
+    const hn::RebindToSigned<D> di;
+    const auto at = hn::Mul(hn::Iota(di, 0), hn::Set(di, static_cast<std::int32_t>(kStride)));
+    return hn::GatherIndex(d, values, at);
+  }
 }
 
 // kDeeper: below the nodes in registers there are others.
