@@ -1,5 +1,5 @@
-// Histograms without memory for their tables: those of 16 bits fail and write nothing, those of
-// floats count without.
+// Histograms without memory for their tables: those of 16 bits fail and write nothing, the others
+// count without.
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -67,18 +67,30 @@ TEST(HistogramMemory, WordsNeedTables) {
   });
 }
 
-TEST(HistogramMemory, FloatsCountWithout) {
+TEST(HistogramMemory, OthersCountWithout) {
   std::vector<Kel32f> image;
   for (int i = 0; i < kWidth; ++i) image.push_back(static_cast<Kel32f>(i));
   const Kel32f levels[] = {0, 10, 50, 51, 1000};
-  int counts[kBins];
+  constexpr KeliSize kLarge = {512, 512};
+  std::vector<Kel8u> bytes;
+  for (int i = 0; i < kLarge.width * kLarge.height; ++i)
+    bytes.push_back(static_cast<Kel8u>(i / 2048));
+  const int byteLevels[] = {0, 100, 101, 128, 200};
+  int counts[kBins], byteCounts[kBins];
   gNoMemory = true;
   const KelStatus status =
       keliHistogramRange_32f_C1R(image.data(), 4 * kWidth, {kWidth, 1}, counts, levels, 5);
+  const KelStatus byteStatus =
+      keliHistogramRange_8u_C1R(bytes.data(), 512, kLarge, byteCounts, byteLevels, 5);
   gNoMemory = false;
   EXPECT_EQ(status, kelStatusOk);
+  EXPECT_EQ(byteStatus, kelStatusOk);
   const int expected[kBins] = {10, 40, 1, kWidth - 51};
-  for (int k = 0; k < kBins; ++k) EXPECT_EQ(counts[k], expected[k]);
+  const int expectedOfBytes[kBins] = {100 * 2048, 2048, 27 * 2048, 0};
+  for (int k = 0; k < kBins; ++k) {
+    EXPECT_EQ(counts[k], expected[k]);
+    EXPECT_EQ(byteCounts[k], expectedOfBytes[k]);
+  }
 }
 
 }  // namespace
