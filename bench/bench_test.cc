@@ -150,6 +150,21 @@ TEST(Frame, MasksSelectAboutHalfInRuns) {
   EXPECT_GT(changes, 640 * 480 / 64);
 }
 
+TEST(Frame, ContentsDifferInHowOftenNeighboursAreEqual) {
+  const auto equalNeighbours = [](Content content) {
+    Choices choices;
+    choices.content = content;
+    const Frame frame(function("keliHistogramEven_8u_C1R"), {640, 480, 0}, choices);
+    const std::vector<std::uint8_t> image = allBytes(frame.source());
+    int equal = 0;
+    for (std::size_t i = 1; i < image.size(); ++i) equal += image[i] == image[i - 1];
+    return static_cast<double>(equal) / (640 * 480);
+  };
+  EXPECT_LT(equalNeighbours(Content::kNoise), 0.01);
+  EXPECT_NEAR(equalNeighbours(Content::kPhotograph), 0.2, 0.05);
+  EXPECT_GT(equalNeighbours(Content::kFlat), 0.99);
+}
+
 TEST(Tables, ExpandNamesAllChoices) {
   EXPECT_EQ(expand("keliCopy_8u_C1R"), (std::vector<std::string>{"keliCopy_8u_C1R"}));
   EXPECT_EQ(expand("a{1,2}{x,}"), (std::vector<std::string>{"a1x", "a1", "a2x", "a2"}));

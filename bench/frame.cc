@@ -38,6 +38,35 @@ double latticeValue(std::uint64_t seed, int x, int y) {
   return static_cast<double>(nextRandom(&state) >> 11) / 9007199254740992.0;
 }
 
+// Calls body(x, y, value) for all pixels, with values between those of the corners of cells of so
+// many pixels.
+template <int kCell, class Body>
+void forLattice(std::uint64_t seed, Size size, const Body& body) {
+  for (int y = 0; y < size.height; ++y) {
+    const double fy = static_cast<double>(y % kCell) / kCell;
+    double left = 0;
+    double right = 0;
+    for (int x = 0; x < size.width; ++x) {
+      if (x % kCell == 0) {
+        const auto column = [&](int i) {
+          return (1 - fy) * latticeValue(seed, x / kCell + i, y / kCell) +
+                 fy * latticeValue(seed, x / kCell + i, y / kCell + 1);
+        };
+        left = column(0);
+        right = column(1);
+      }
+      const double fx = static_cast<double>(x % kCell) / kCell;
+      body(x, y, (1 - fx) * left + fx * right);
+    }
+  }
+}
+
+// The ends of the values that samples take, the upper one excluded.
+double leastSample(Type type) { return type == Type::k16s ? -32768 : 0; }
+double mostSample(Type type, const Choices& choices) {
+  return type == Type::k16s ? 32768 : isFloating(type) ? choices.most : 256;
+}
+
 }  // namespace
 
 std::string nameOf(Size size) {
@@ -96,26 +125,26 @@ void Image::fillBytes(std::uint8_t value) const {
   std::memset(data(), value, static_cast<std::size_t>(step_) * size_.height * planes());
 }
 
-// Noise interpolated between the corners of 16-pixel cells: runs of both values as in real masks.
+// Runs of both values as in real masks.
 void Image::fillBlobs(std::uint64_t seed) const {
-  constexpr int kCell = 16;
-  for (int y = 0; y < size_.height; ++y) {
-    const double fy = static_cast<double>(y % kCell) / kCell;
-    double left = 0;
-    double right = 0;
-    for (int x = 0; x < size_.width; ++x) {
-      if (x % kCell == 0) {
-        const auto column = [&](int i) {
-          return (1 - fy) * latticeValue(seed, x / kCell + i, y / kCell) +
-                 fy * latticeValue(seed, x / kCell + i, y / kCell + 1);
-        };
-        left = column(0);
-        right = column(1);
-      }
-      const double fx = static_cast<double>(x % kCell) / kCell;
-      const bool set = (1 - fx) * left + fx * right >= 0.5;
-      data()[static_cast<std::size_t>(step_) * y + x] = set ? 255 : 0;
-    }
+  forLattice<16>(seed, size_, [&](int x, int y, double value) {
+    data()[static_cast<std::size_t>(step_) * y + x] = value >= 0.5 ? 255 : 0;
+  });
+}
+
+// Every channel another landscape, with noise of up to 1 % of the range of values: a fifth of the
+// bytes equal the next, as in the photographs of examples/images.
+void Image::fillPhotograph(std::uint64_t seed, const Choices& choices) const {
+  const double least = leastSample(type_), range = mostSample(type_, choices) - least;
+  const int samples = samplesPerPixel();
+  std::uint64_t noise = seed;
+  for (int k = 0; k < samples; ++k) {
+    forLattice<64>(
+        seed + 10 * static_cast<std::uint64_t>(k), size_, [&](int x, int y, double value) {
+          value = 0.99 * value + 0.01 * static_cast<double>(nextRandom(&noise) >> 40) / (1 << 24);
+          storeSample(type_, data() + static_cast<std::size_t>(step_) * y,
+                      static_cast<std::size_t>(samples) * x + k, std::floor(least + range * value));
+        });
   }
 }
 
@@ -160,7 +189,10 @@ void Frame::addImage(const Argument& argument) {
     if (destination_ != nullptr) throw std::runtime_error("more than one written image");
     destination_ = std::move(image);
   } else {
-    image->fillPattern(1 + sources_.size(), choices_);
+    const std::uint64_t seed = 1 + sources_.size();
+    image->fillPattern(seed, choices_);
+    if (choices_.content == Content::kPhotograph) image->fillPhotograph(seed, choices_);
+    if (choices_.content == Content::kFlat) image->fillBytes(0x42);
     sources_.push_back(std::move(image));
   }
 }
@@ -188,8 +220,7 @@ void Frame::addPerChannel(const Argument& argument) {
     arrays[k] = array;
     if (argument.role == Role::kCounts) results_.push_back({argument.type, count, array});
     for (std::size_t i = 0; argument.role == Role::kLevels && i < count; ++i) {
-      storeSample(argument.type, array, i,
-                  least() + (most() - least()) * static_cast<double>(i) / (choices_.levels - 1));
+      storeSample(argument.type, array, i, level(static_cast<int>(i)));
     }
   }
   Value value;
@@ -215,11 +246,8 @@ void Frame::addNumber(const Argument& argument, double number) {
 }
 
 // The ends of the range that histograms cover: of all samples of the source.
-double Frame::least() const { return sources_.front()->type() == Type::k16s ? -32768 : 0; }
-double Frame::most() const {
-  const Type type = sources_.front()->type();
-  return type == Type::k16s ? 32768 : isFloating(type) ? choices_.most : 256;
-}
+double Frame::least() const { return leastSample(sources_.front()->type()); }
+double Frame::most() const { return mostSample(sources_.front()->type(), choices_); }
 
 std::vector<double> Frame::results() const {
   std::vector<double> all;

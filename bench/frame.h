@@ -31,6 +31,13 @@ struct Block {
   std::size_t bytes() const { return rowBytes * rows; }
 };
 
+// What sources hold where that decides the speed.
+enum class Content {
+  kNoise,       // any values of integers, evenly spread ones of floats
+  kPhotograph,  // smooth, with a little noise
+  kFlat,        // one value
+};
+
 // What a row of the tables may choose about the arguments.
 struct Choices {
   int scaleFactor = 0;
@@ -41,6 +48,7 @@ struct Choices {
   int hint = kelAlgHintFast;
   double upper = 64;  // how far the upper end of a range lies above the lower one, the constant
   int levels = 17;    // of histograms, from the least sample value to past the greatest
+  Content content = Content::kNoise;
 };
 
 // A planar image is one allocation, one plane after another.
@@ -62,6 +70,7 @@ class Image {
   Block block() const;
 
   void fillPattern(std::uint64_t seed, const Choices& choices = {}) const;
+  void fillPhotograph(std::uint64_t seed, const Choices& choices) const;
   void fillBytes(std::uint8_t value) const;
   void fillBlobs(std::uint64_t seed) const;  // about half of the pixels 255, the others 0
 
@@ -95,6 +104,10 @@ class Frame {
   bool hasDestination() const { return destination_ != nullptr; }
   const Choices& choices() const { return choices_; }
   int scaleFactor() const { return choices_.scaleFactor; }
+  // Level i of a histogram.
+  double level(int i) const {
+    return least() + (most() - least()) * static_cast<double>(i) / (choices_.levels - 1);
+  }
   double constant(int channel) const { return choices_.constant * (channel + 1); }
 
   // Calls the function.

@@ -2314,6 +2314,100 @@ KELI_API KelStatus keliNormRel_L2_32f_C3R(const Kel32f* pSrc1, int src1Step, con
 KELI_API KelStatus keliNormRel_L2_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[3], KelHintAlgorithm hint);
 KELI_API KelStatus keliNormRel_L2_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel64f pValue[4], KelHintAlgorithm hint);
 
+/* ==== Histograms ==== */
+
+/**
+ * Counts the pixels of each channel by value in bins with given boundaries.
+ *
+ *     pHist[k] = number of pixels v with pLevels[k] <= v < pLevels[k + 1], k = 0 .. nLevels - 2
+ *
+ * pLevels holds nLevels >= 2 boundaries, pHist receives nLevels - 1 counts, which replace what
+ * it held. C3 and AC4 take three histograms, arrays of levels and numbers of levels, C4 four;
+ * AC4 ignores the fourth channel. A boundary is inclusive below and exclusive above: a pixel
+ * below the first one of an increasing array, or at or above the last, is not counted. Levels
+ * may lie beyond the range of the samples and act as its ends then. They need not increase:
+ * every bin counts by the formula alone, so that a pixel may count in several bins or in none,
+ * and a bin whose upper boundary is not above its lower one stays 0. Counts above 2^31 - 1 are
+ * given as 2^31 - 1. All arrays may stand at any address; histograms must not overlap the image
+ * or the levels.
+ *
+ * 16s: kelStatusNoMemory if a temporary table cannot be allocated (at most 256 KiB for each
+ * channel, none for small images); no histogram is written then.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; of C3, AC4 and C4, channel by
+ * channel, kelStatusNullPointer if its histogram or its levels are null,
+ * kelStatusBadHistogramLevels if its nLevels is below 2; kelStatusBadSize if roiSize is below 1
+ * in width or height; kelStatusBadStep if a step is below 1; kelStatusBadHistogramLevels if
+ * nLevels is below 2 (C1).
+ */
+KELI_API KelStatus keliHistogramRange_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, int* pHist, const int* pLevels, int nLevels);
+KELI_API KelStatus keliHistogramRange_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], const int* const pLevels[3], const int nLevels[3]);
+KELI_API KelStatus keliHistogramRange_8u_C4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, int* const pHist[4], const int* const pLevels[4], const int nLevels[4]);
+KELI_API KelStatus keliHistogramRange_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], const int* const pLevels[3], const int nLevels[3]);
+KELI_API KelStatus keliHistogramRange_16s_C1R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* pHist, const int* pLevels, int nLevels);
+KELI_API KelStatus keliHistogramRange_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], const int* const pLevels[3], const int nLevels[3]);
+KELI_API KelStatus keliHistogramRange_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* const pHist[4], const int* const pLevels[4], const int nLevels[4]);
+KELI_API KelStatus keliHistogramRange_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], const int* const pLevels[3], const int nLevels[3]);
+
+/**
+ * Counts the pixels of each channel by value in bins with given floating-point boundaries.
+ *
+ *     pHist[k] = number of pixels v with pLevels[k] <= v < pLevels[k + 1], k = 0 .. nLevels - 2
+ *
+ * pLevels holds nLevels >= 2 boundaries, pHist receives nLevels - 1 counts, which replace what
+ * it held. C3 and AC4 take three histograms, arrays of levels and numbers of levels, C4 four;
+ * AC4 ignores the fourth channel. Values compare as IEEE 754 defines it: a NaN is in no bin, -0
+ * equals 0, and infinite levels are valid, so that a last level of infinity leaves out infinite
+ * pixels only. Levels need not increase: every bin counts by the formula alone, so that a pixel
+ * may count in several bins or in none. A bin with a boundary that is NaN stays 0. Counts above
+ * 2^31 - 1 are given as 2^31 - 1. All arrays may stand at any address; histograms must not
+ * overlap the image or the levels.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; of C3, AC4 and C4, channel by
+ * channel, kelStatusNullPointer if its histogram or its levels are null,
+ * kelStatusBadHistogramLevels if its nLevels is below 2; kelStatusBadSize if roiSize is below 1
+ * in width or height; kelStatusBadStep if a step is below 1; kelStatusBadHistogramLevels if
+ * nLevels is below 2 (C1).
+ */
+KELI_API KelStatus keliHistogramRange_32f_C1R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, int* pHist, const Kel32f* pLevels, int nLevels);
+KELI_API KelStatus keliHistogramRange_32f_C3R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], const Kel32f* const pLevels[3], const int nLevels[3]);
+KELI_API KelStatus keliHistogramRange_32f_C4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, int* const pHist[4], const Kel32f* const pLevels[4], const int nLevels[4]);
+KELI_API KelStatus keliHistogramRange_32f_AC4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], const Kel32f* const pLevels[3], const int nLevels[3]);
+
+/**
+ * Counts the pixels of each channel by value in evenly spaced bins, and gives their boundaries.
+ *
+ *     pLevels[k + 1] = pLevels[k] + q + (k < r), pLevels[0] = lowerLevel, q = (upperLevel - lowerLevel) / m, r = (upperLevel - lowerLevel) % m, m = nLevels - 1
+ *
+ * Writes the nLevels >= 2 boundaries to pLevels, then counts as keliHistogramRange does. The
+ * division is that of integers: the first r bins are one value wider than the others, and
+ * pLevels[m] is upperLevel. C3 and AC4 take three histograms, arrays of levels, numbers of
+ * levels and bounds, C4 four; AC4 ignores the fourth channel. Counts above 2^31 - 1 are given
+ * as 2^31 - 1. All arrays may stand at any address; what is written must not overlap the image,
+ * nor one array another.
+ *
+ * With upperLevel < lowerLevel, the quotient truncates towards zero and the first -r steps are
+ * one value longer: all bins are empty. Where the difference is smaller than m, so that q is 0,
+ * every level is lowerLevel.
+ *
+ * 16s: kelStatusNoMemory if a temporary table cannot be allocated (at most 256 KiB for each
+ * channel, none for small images); neither levels nor histograms are written then.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; of C3, AC4 and C4, channel by
+ * channel, kelStatusNullPointer if its histogram or its levels are null,
+ * kelStatusBadHistogramLevels if its nLevels is below 2; kelStatusBadSize if roiSize is below 1
+ * in width or height; kelStatusBadStep if a step is below 1; kelStatusBadHistogramLevels if
+ * nLevels is below 2 (C1).
+ */
+KELI_API KelStatus keliHistogramEven_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, int* pHist, int* pLevels, int nLevels, int lowerLevel, int upperLevel);
+KELI_API KelStatus keliHistogramEven_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], int* const pLevels[3], const int nLevels[3], const int lowerLevel[3], const int upperLevel[3]);
+KELI_API KelStatus keliHistogramEven_8u_C4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, int* const pHist[4], int* const pLevels[4], const int nLevels[4], const int lowerLevel[4], const int upperLevel[4]);
+KELI_API KelStatus keliHistogramEven_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], int* const pLevels[3], const int nLevels[3], const int lowerLevel[3], const int upperLevel[3]);
+KELI_API KelStatus keliHistogramEven_16s_C1R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* pHist, int* pLevels, int nLevels, int lowerLevel, int upperLevel);
+KELI_API KelStatus keliHistogramEven_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], int* const pLevels[3], const int nLevels[3], const int lowerLevel[3], const int upperLevel[3]);
+KELI_API KelStatus keliHistogramEven_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* const pHist[4], int* const pLevels[4], const int nLevels[4], const int lowerLevel[4], const int upperLevel[4]);
+KELI_API KelStatus keliHistogramEven_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], int* const pLevels[3], const int nLevels[3], const int lowerLevel[3], const int upperLevel[3]);
+
 #ifdef __cplusplus
 }
 #endif

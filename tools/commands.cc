@@ -22,8 +22,9 @@ using Words = std::vector<std::string>;
 constexpr char kHelp[] =
     R"(keli list [PATTERN]        the functions whose name contains or globs PATTERN
 keli info NAME             what a function does, its arguments and checks
-keli run NAME [IN.png ...] -o OUT.png [OPTIONS]
-                           calls a function on images; one input file for each source, in order
+keli run NAME [IN.png ...] [-o OUT.png] [OPTIONS]
+                           calls a function on images; one input file for each source, in order;
+                           prints its results, or writes its image, or draws its histograms
 keli version               the library's version record
 keli help                  this text
 
@@ -34,6 +35,10 @@ Options of run, as far as the function has such an argument:
   --mask FILE              selects the pixels whose gray value is 128 or more
   --srcChannel N, --dstChannel N
                            the channel that takes part, from 0 (default)
+  --cmpOp less|lessEq|eq|greaterEq|greater, --hint fast|accurate
+  --pLevels 0,64,256       levels of a histogram; with ';' between those of the channels
+  --nLevels 5, --lowerLevel 0, --upperLevel 256
+                           even levels, for all channels or 5,3,9 for each
   --value 1,2,3, --dstOrder 2,1,0, --scaleFactor 1, ...
                            any other argument by its name
 

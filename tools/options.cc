@@ -11,18 +11,6 @@
 namespace keli::tool {
 namespace {
 
-std::vector<std::string> split(const std::string& text, char separator) {
-  std::vector<std::string> parts(1);
-  for (char c : text) {
-    if (c == separator) {
-      parts.emplace_back();
-    } else {
-      parts.back() += c;
-    }
-  }
-  return parts;
-}
-
 // strtoll and strtod skip blanks and stop at the first stranger; a whole word must be a number.
 template <class Parse>
 auto parseWhole(const std::string& option, const std::string& word, const char* kind, Parse parse) {
@@ -57,6 +45,18 @@ registry::Value parseNumber(const std::string& option, const std::string& word) 
 
 }  // namespace
 
+std::vector<std::string> split(const std::string& text, char separator) {
+  std::vector<std::string> parts(1);
+  for (char c : text) {
+    if (c == separator) {
+      parts.emplace_back();
+    } else {
+      parts.back() += c;
+    }
+  }
+  return parts;
+}
+
 const std::string* Options::find(const std::string& name) const {
   auto found = values.find(name);
   return found == values.end() ? nullptr : &found->second;
@@ -81,7 +81,7 @@ Options parseOptions(const std::vector<std::string>& words) {
 std::vector<registry::Value> parseNumbers(const std::string& option, const std::string& text,
                                           registry::Type type, std::size_t count, char separator) {
   std::vector<std::string> words = split(text, separator);
-  if (words.size() != count) {
+  if (count != 0 && words.size() != count) {
     throw UsageError(option + ": needs " + std::to_string(count) + " number(s), got '" + text +
                      "'");
   }

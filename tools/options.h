@@ -25,7 +25,10 @@ struct Options {
 // Every option takes one value; what starts with no dash is a file.
 Options parseOptions(const std::vector<std::string>& words);
 
-// Numbers with a separator between them: exactly `count`, each within the type's range.
+std::vector<std::string> split(const std::string& text, char separator);
+
+// Numbers with a separator between them: exactly `count`, or any number of them if it is 0, each
+// within the type's range.
 // `option` is named in messages. Integers come back as i, floating samples as f.
 std::vector<registry::Value> parseNumbers(const std::string& option, const std::string& text,
                                           registry::Type type, std::size_t count,

@@ -4,11 +4,12 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
-#include <deque>
 #include <optional>
 
+#include "numbers.h"
 #include "options.h"
 #include "raster.h"
+#include "results.h"
 #include "sample_type.h"
 
 namespace keli::tool {
@@ -26,16 +27,17 @@ bool isInput(Role role) {
 
 bool isParameter(Role role) {
   return registry::isConstant(role) || role == Role::kScalar || role == Role::kScaleFactor ||
-         role == Role::kOrder;
+         role == Role::kOrder || role == Role::kTolerance;
 }
+
+// Of every channel its own, or one for all.
+bool isPerChannel(Role role) { return role == Role::kLevelCount || role == Role::kLevelBound; }
 
 bool isSupplied(Role role) {
-  return registry::isImage(role) || isParameter(role) || role == Role::kStep ||
-         role == Role::kRegion;
+  return registry::isImage(role) || registry::isResult(role) || isParameter(role) ||
+         isPerChannel(role) || role == Role::kLevels || role == Role::kCompareOp ||
+         role == Role::kHint || role == Role::kStep || role == Role::kRegion;
 }
-
-// Parameters without a sample type are C ints.
-Type numberType(const Argument& a) { return a.type == Type::kNone ? Type::k32s : a.type; }
 
 template <class Condition>
 int count(const Function& f, Condition condition) {
@@ -57,21 +59,30 @@ void requireCallable(const Function& f) {
                        registry::nameOf(a.role) + " " + registry::nameOf(a.type) + ")");
     }
   }
-  if (count(f, registry::isWritten) != 1) {
-    throw UsageError(name + ": the tool can only call functions that write one image");
+  int written = count(f, registry::isWritten);
+  if (written > 1 || (written == 0 && count(f, registry::isResult) == 0)) {
+    throw UsageError(name + ": the tool can only call functions that write one image or results");
   }
 }
 
 // Whether an option must be given, by its name.
 std::map<std::string, bool> acceptedOptions(const Function& f) {
-  std::map<std::string, bool> accepted = {{"-o", true}, {"--roi", false}};
+  std::map<std::string, bool> accepted = {{"--roi", false}};
   if (count(f, isInput) == 0) accepted["--size"] = false;
+  bool levelsGiven = count(f, [](Role role) { return role == Role::kLevels; }) != 0;
   for (const Argument& a : f.arguments) {
+    if (registry::isWritten(a.role)) accepted["-o"] = true;
+    if (a.role == Role::kCounts) accepted["-o"] = false;
     if (a.role == Role::kMask) accepted["--mask"] = true;
     if (a.role == Role::kSourceChannel) accepted["--srcChannel"] = false;
     if (a.role == Role::kDestinationChannel) accepted["--dstChannel"] = false;
     if (registry::isWritten(a.role) && a.role != Role::kInOut) accepted["--dst"] = false;
-    if (isParameter(a.role)) accepted[std::string("--") + a.name] = true;
+    bool counted = a.role == Role::kLevelCount && levelsGiven;  // they are their list's length
+    if (isParameter(a.role) || a.role == Role::kLevels || a.role == Role::kCompareOp ||
+        (isPerChannel(a.role) && !counted)) {
+      accepted["--" + std::string(a.name)] = true;
+    }
+    if (a.role == Role::kHint) accepted["--" + std::string(a.name)] = false;
   }
   return accepted;
 }
@@ -101,7 +112,7 @@ void requireOptions(const Function& f, const Options& options) {
 class Run {
  public:
   Run(const Function& f, const Options& options)
-      : function_(f), options_(options), images_(f.arguments.size) {}
+      : function_(f), options_(options), images_(f.arguments.size), numbers_(f, options) {}
 
   int operator()() {
     loadInputs();
@@ -110,8 +121,9 @@ class Run {
     std::vector<Value> values;
     for (std::size_t i = 0; i < images_.size(); ++i) values.push_back(valueOf(i));
     KelStatus status = function_(values.data()).status;
-    if (status >= 0) writePng(*options_.find("-o"), output_->toPng());
+    if (status >= 0) writePicture();
     std::printf("%s (%d)\n", registry::statusName(status), static_cast<int>(status));
+    if (status >= 0) numbers_.print(options_.find("-o") == nullptr);
     return status >= 0 ? 0 : 1;
   }
 
@@ -205,7 +217,7 @@ class Run {
     } else if (a.role == Role::kRegion) {
       value.size = {region_.width, region_.height};
     } else {
-      value = numbersOf(a);
+      value = numbers_.valueOf(i);
     }
     return value;
   }
@@ -223,33 +235,15 @@ class Run {
     return static_cast<int>(channel);
   }
 
-  // A number, or an array of them in memory that lives until the call.
-  Value numbersOf(const Argument& a) {
-    std::string option = std::string("--") + a.name;
-    std::vector<Value> numbers =
-        parseNumbers(option, *options_.find(option), numberType(a), a.length ? a.length : 1);
-    if (!a.length) return numbers[0];
-    Value value{};
-    withSampleType(numberType(a), [&](auto sample) {
-      std::vector<unsigned char>& bytes = arrays_.emplace_back();
-      for (const Value& number : numbers) {
-        if constexpr (std::is_floating_point_v<decltype(sample)>) {
-          sample = static_cast<decltype(sample)>(number.f);
-        } else {
-          sample = static_cast<decltype(sample)>(number.i);
-        }
-        const auto* begin = reinterpret_cast<const unsigned char*>(&sample);
-        bytes.insert(bytes.end(), begin, begin + sizeof sample);
-      }
-      value.p = bytes.data();
-    });
-    return value;
+  void writePicture() const {
+    const std::string* file = options_.find("-o");
+    if (file) writePng(*file, output_ ? output_->toPng() : drawHistograms(numbers_.histograms()));
   }
 
   const Function& function_;
   const Options& options_;
   std::vector<std::optional<Image>> images_;  // one for each argument that is an image
-  std::deque<std::vector<unsigned char>> arrays_;
+  Numbers numbers_;
   Raster* output_ = nullptr;
   KeliSize frame_{};
   KeliRect region_{};

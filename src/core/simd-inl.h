@@ -293,6 +293,38 @@ HWY_INLINE V dupOdd(V v) {
 #endif
 }
 
+// The floats of a table in a vector at indices below their number. The library's own look-up checks
+// the indices in some builds, for which a program would have to be linked with it.
+template <class D, class VI>
+HWY_INLINE hn::Vec<D> lookUpFloats([[maybe_unused]] D d, hn::Vec<D> table,
+                                   [[maybe_unused]] VI indices) {
+#if HWY_TARGET == HWY_SCALAR
+  return table;  // never run: the drivers call scalar definitions
+#else
+#if HWY_TARGET == HWY_AVX2 || HWY_TARGET == HWY_AVX3_DL
+  if constexpr (hn::MaxLanes(D()) == 8) {
+    return hn::Vec<D>{_mm256_permutevar8x32_ps(table.raw, indices.raw)};
+#if HWY_TARGET == HWY_AVX3_DL
+  } else if constexpr (hn::MaxLanes(D()) == 16) {
+    return hn::Vec<D>{_mm512_permutexvar_ps(indices.raw, table.raw)};
+#endif
+  } else
+#endif
+  {
+    // Within 16 bytes: the index of a lane four times, made those of its bytes.
+    alignas(16) static constexpr std::uint8_t kFirst[16] = {0, 0, 0, 0, 4,  4,  4,  4,
+                                                            8, 8, 8, 8, 12, 12, 12, 12};
+    alignas(16) static constexpr std::uint8_t kByte[16] = {0, 1, 2, 3, 0, 1, 2, 3,
+                                                           0, 1, 2, 3, 0, 1, 2, 3};
+    const hn::Repartition<std::uint8_t, D> d8;
+    const auto firstBytes = hn::BitCast(d8, hn::ShiftLeft<2>(indices));
+    const auto bytes = hn::TableLookupBytes(firstBytes, hn::LoadDup128(d8, kFirst));
+    return hn::BitCast(
+        d, hn::TableLookupBytes(hn::BitCast(d8, table), hn::Add(bytes, hn::LoadDup128(d8, kByte))));
+  }
+#endif
+}
+
 // Signed lanes saturated to half their width: each 16 bytes hold those of lo, then those of hi.
 template <class D, class VW>
 HWY_INLINE hn::Vec<D> packSaturated([[maybe_unused]] D d, [[maybe_unused]] VW lo,

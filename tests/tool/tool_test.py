@@ -127,6 +127,23 @@ RESULTS = [
     ("keliSwapChannels_8u_C3IR rgb.png --dstOrder 2,1,0", 3, SWAPPED),
     ("keliSwapChannels_32s_C3R rgb.png --dstOrder 2,1,0", 3, SWAPPED),
 ]
+# (command, what is printed after the status)
+PRINTED = [
+    ("keliHistogramEven_8u_C1R gray.png --nLevels 3 --lowerLevel 0 --upperLevel 8",
+     "pHist:\n  0 <= v < 4: 3\n  4 <= v < 8: 3\n"),
+    ("keliHistogramEven_8u_C3R rgb.png --nLevels 3,2,2 --lowerLevel 0 --upperLevel 256,8,256",
+     "pHist, channel 0:\n  0 <= v < 128: 5\n  128 <= v < 256: 1\n"
+     "pHist, channel 1:\n  0 <= v < 8: 3\npHist, channel 2:\n  0 <= v < 256: 6\n"),
+    ("keliHistogramRange_8u_C1R gray.png --roi 1,0,2,2 --pLevels 2,4,6",
+     "pHist:\n  2 <= v < 4: 2\n  4 <= v < 6: 1\n"),
+    ("keliHistogramRange_16s_AC4R rgb.png --pLevels -9,8",
+     "".join(f"pHist, channel {k}:\n  -9 <= v < 8: 3\n" for k in range(3))),
+    ("keliHistogramRange_32f_C4R rgb.png --pLevels 0,0.1;-inf,20;1e-20,30.5,3e38;255,256",
+     "pHist, channel 0:\n  0 <= v < 0.1: 2\npHist, channel 1:\n  -inf <= v < 20: 3\n"
+     "pHist, channel 2:\n  1e-20 <= v < 30.5: 2\n  30.5 <= v < 3e+38: 2\n"
+     "pHist, channel 3:\n  255 <= v < 256: 6\n"),
+]
+EVEN = "keliHistogramEven_8u_C3R rgb.png --lowerLevel 0"
 # (command, words that the message must hold)
 MISTAKES = [
     ("", "no command"), ("frobnicate", "frobnicate"), ("info", "needs"), ("version 1", "'1'"),
@@ -157,6 +174,18 @@ MISTAKES = [
     ("run keliSwapChannels_8u_C3R rgb.png -o o.png", "needs option --dstOrder"),
     ("run keliCopy_8u_C1R gray.png -o none/o.png", "none/o.png: cannot write"),
     ("run keliCopy_8u_C1R gray.png -o /dev/full", "/dev/full: cannot write"),
+    ("run keliCopy_8u_C1R gray.png", "needs option -o"),
+    ("run keliHistogramRange_8u_C1R gray.png --pLevels 0,1 -o none/o.png", "none/o.png: cannot"),
+    ("run keliHistogramRange_8u_C1R gray.png -o o.png", "needs option --pLevels"),
+    ("run keliHistogramRange_8u_C1R gray.png --pLevels 0,1 --nLevels 2", "no option --nLevels"),
+    ("run keliHistogramRange_8u_C1R gray.png --pLevels 0,,1", "--pLevels: '' is not"),
+    ("run keliHistogramRange_8u_C1R gray.png --pLevels 0,1;0,1", "--pLevels: needs 1, got"),
+    ("run keliHistogramRange_8u_C1R gray.png --pLevels 0,2147483648", "2147483648 is out of"),
+    ("run keliHistogramRange_8u_C3R rgb.png --pLevels 0,1;2,3", "needs 1 for all channels or 3"),
+    (f"run {EVEN} --nLevels 5", "needs option --upperLevel"),
+    (f"run {EVEN} --upperLevel 9 --nLevels 5,6", "--nLevels: needs 1 for all channels or 3"),
+    (f"run {EVEN} --upperLevel 9,8,7,6 --nLevels 5", "--upperLevel: needs 1 for all"),
+    (f"run {EVEN} --upperLevel 9 --nLevels 2147483647", "2147483647 is more than 1048576"),
     ("run keliCopy_8u_C3C1R rgb.png --srcChannel 3 -o o.png", "--srcChannel: 3 is out of range"),
     ("run keliCopy_8u_C1C3R gray.png --dstChannel -1 -o o.png", "--dstChannel: -1"),
     ("run keliSet_8u_C1R --value 1 -o o.png", "--size WxH or --dst"),
@@ -199,6 +228,41 @@ class ToolTest(unittest.TestCase):
                 self.assertEqual((done.returncode, done.stdout, done.stderr),
                                  (0, "kelStatusOk (0)\n", ""))
                 self.assertEqual(read(self.folder / "o.png"), (channels, rows))
+
+    def test_printed_results(self):
+        for line, text in PRINTED:
+            with self.subTest(line):
+                done = self.keli(f"run {line}")
+                self.assertEqual((done.returncode, done.stdout, done.stderr),
+                                 (0, "kelStatusOk (0)\n" + text, ""))
+
+    def bars(self, line):
+        """The heights of the bars in each channel of a drawn histogram."""
+        done = self.keli(f"run {line} -o o.png")
+        self.assertEqual((done.returncode, done.stdout), (0, "kelStatusOk (0)\n"), done.stderr)
+        channels, rows = read(self.folder / "o.png")
+        self.assertEqual(len(rows), 256)
+        columns = [[row[i] for row in rows] for i in range(len(rows[0]))]
+        for column in columns:
+            self.assertEqual(column, sorted(column))
+        return [[sum(v > 0 for v in c) for c in columns[k::channels]] for k in range(channels)]
+
+    def test_drawn_histograms(self):
+        gray = "keliHistogramRange_8u_C1R gray.png --pLevels"
+        self.assertEqual(self.bars(f"{gray} 0,2,6,9"), [[64] * 86 + [256] * 86 + [64] * 86])
+        many = self.bars(f"{gray} {','.join(str(v) for v in range(-2000, 2001))}")
+        self.assertEqual((len(many[0]), max(many[0])), (1024, 256))
+        self.assertEqual(sum(h > 0 for h in many[0]), 2)
+        self.assertEqual(self.bars("keliHistogramRange_8u_C3R rgb.png --pLevels 0,8;0,21;255,256"),
+                         [[192] * 256, [256] * 256, [64] * 256])
+
+    def test_too_few_levels(self):
+        for line in ["Range_8u_C1R gray.png --pLevels 5", "Range_32f_C3R rgb.png --pLevels 1,2;3;4,5",
+                     "Even_8u_C1R gray.png --nLevels -3 --lowerLevel 0 --upperLevel 9"]:
+            done = self.keli(f"run keliHistogram{line} -o o.png")
+            self.assertEqual((done.returncode, done.stdout, done.stderr),
+                             (1, "kelStatusBadHistogramLevels (-107)\n", ""))
+            self.assertFalse((self.folder / "o.png").exists())
 
     def test_mistakes(self):
         for line, words in MISTAKES:
