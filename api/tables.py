@@ -11,7 +11,7 @@ from dataclasses import dataclass, field
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-TABLES = ["core", "data", "arith", "division", "complex", "math", "logic"]
+TABLES = ["core", "data", "arith", "division", "complex", "math", "logic", "threshold"]
 
 # Names whose role needs no mention in a table; every other argument is written name:role[:type].
 ROLE_OF_NAME = {
@@ -68,7 +68,8 @@ class Function:
 
     @property
     def operation(self):
-        return re.match(r"keli([^_]+)", self.name)[1]
+        """The name up to the types: of keliThreshold_GT_8u_C1R it is Threshold_GT."""
+        return re.match(r"keli(.+?)(?=_\d|$)", self.name)[1]
 
     @property
     def parallel(self):
