@@ -2097,6 +2097,110 @@ KELI_API KelStatus keliThreshold_LTValGTVal_32f_C1IR(Kel32f* pSrcDst, int srcDst
 KELI_API KelStatus keliThreshold_LTValGTVal_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f thresholdLT[3], const Kel32f valueLT[3], const Kel32f thresholdGT[3], const Kel32f valueGT[3]);
 KELI_API KelStatus keliThreshold_LTValGTVal_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f thresholdLT[3], const Kel32f valueLT[3], const Kel32f thresholdGT[3], const Kel32f valueGT[3]);
 
+/* ==== Comparisons ==== */
+
+/**
+ * Compares two images, pixel by pixel, and writes a mask.
+ *
+ *     dst = src1 op src2 in every channel ? 255 : 0
+ *
+ * op is <, <=, ==, >= or >, as cmpOp says. The mask has one channel of 8u whatever the layout
+ * of the sources; where these have several channels, the relation must hold in each: in the
+ * first three for AC4, whose fourth is ignored, and in all four for C4. Of 32f a relation with
+ * a sample that is not a number is false, == too, and zeros of both signs are equal. With any
+ * other cmpOp the function returns kelStatusOk and writes nothing. Steps are checked before
+ * sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliCompare_8u_C1R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_8u_C3R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_8u_C4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_8u_AC4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_16s_C1R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_16s_C3R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_16s_C4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_16s_AC4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+
+/**
+ * Compares the pixels of an image with a constant and writes a mask.
+ *
+ *     dst = src op value in every channel ? 255 : 0
+ *
+ * op is <, <=, ==, >= or >, as cmpOp says. The constant is one value for C1, and an array of
+ * one for each channel otherwise (three for C3 and AC4, four for C4). The mask has one channel
+ * of 8u; where the source has several, the relation must hold in each: in the first three for
+ * AC4, whose fourth is ignored, and in all four for C4. Of 32f a relation with a number that is
+ * none is false, == too, and zeros of both signs are equal. With any other cmpOp the function
+ * returns kelStatusOk and writes nothing. Steps are checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliCompareC_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_8u_C3R(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_8u_C4R(const Kel8u* pSrc, int srcStep, const Kel8u value[4], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_8u_AC4R(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s value, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_16s_C3R(const Kel16s* pSrc, int srcStep, const Kel16s value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_16s_C4R(const Kel16s* pSrc, int srcStep, const Kel16s value[4], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_16s_AC4R(const Kel16s* pSrc, int srcStep, const Kel16s value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f value, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_32f_C3R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_32f_C4R(const Kel32f* pSrc, int srcStep, const Kel32f value[4], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_32f_AC4R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+
+/**
+ * Tells where two images are equal within a tolerance, and writes a mask.
+ *
+ *     dst = |src1 - src2| <= eps in every channel ? 255 : 0
+ *
+ * The mask has one channel of 8u; where the sources have several, all must be equal: the first
+ * three for AC4, whose fourth is ignored, and all four for C4. The difference is formed in
+ * single precision, and one that is not a number is not within the tolerance. Of C4 it is
+ * formed in double precision, and compared with the tolerance widened to it, wherever the
+ * address or the step of an image is not a multiple of 16 bytes: a pixel whose rounded
+ * difference is the tolerance, and whose exact one is above, then gives 0 and not 255. A
+ * tolerance of 0, or -0, asks for equality, and zeros of both signs are equal. Steps are
+ * checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadEpsilon if
+ * not eps >= 0.
+ */
+KELI_API KelStatus keliCompareEqualEps_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+KELI_API KelStatus keliCompareEqualEps_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+KELI_API KelStatus keliCompareEqualEps_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+KELI_API KelStatus keliCompareEqualEps_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+
+/**
+ * Tells where an image is equal to a constant within a tolerance, and writes a mask.
+ *
+ *     dst = |src - value| <= eps in every channel ? 255 : 0
+ *
+ * The constant is one value for C1, and an array of one for each channel otherwise (three for
+ * C3 and AC4, four for C4). The mask has one channel of 8u; where the source has several, all
+ * must be equal: the first three for AC4, whose fourth is ignored, and all four for C4. The
+ * difference is formed in single precision, and one that is not a number is not within the
+ * tolerance. Of C4 it is formed in double precision, and compared with the tolerance widened to
+ * it, wherever the address or the step of an image is not a multiple of 16 bytes; where the
+ * array of constants stands does not matter. A tolerance of 0, or -0, asks for equality, and
+ * zeros of both signs are equal. Steps are checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadEpsilon if
+ * not eps >= 0.
+ */
+KELI_API KelStatus keliCompareEqualEpsC_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f value, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+KELI_API KelStatus keliCompareEqualEpsC_32f_C3R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+KELI_API KelStatus keliCompareEqualEpsC_32f_C4R(const Kel32f* pSrc, int srcStep, const Kel32f value[4], Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+KELI_API KelStatus keliCompareEqualEpsC_32f_AC4R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+
 #ifdef __cplusplus
 }
 #endif
