@@ -1,7 +1,6 @@
 // Frames of the comparisons. Arguments have been checked, but for the operation.
 #pragma once
 
-#include <limits>
 #include <type_traits>
 
 #include "compare/rows.h"
@@ -40,47 +39,34 @@ KelStatus twoImages(const T* src1, int src1Step, const T* src2, int src2Step, Ke
   }
   const std::size_t width = static_cast<std::size_t>(size.width);
   return run<T, kLayout>(makeBand(src1, src1Step, src2, src2Step, dst, dstStep, width, size.height),
-                         twoImageRows<T>().relations[op], {});
+                         compareRows<T>().twoImages[op], {});
 }
 
-// Every relation of integers with a constant is a range; where no sample satisfies it, the range is
-// empty.
+// The bits that reverse the order of samples: a > c is ~a < ~c for integers and -a < -c for floats.
 template <class T>
-void setRange(T value, KelCmpOp op, T& lower, T& upper) {
-  using Limits = std::numeric_limits<T>;
-  const bool never = (op == kelCmpLess && value == Limits::min()) ||
-                     (op == kelCmpGreater && value == Limits::max());
-  const T below = static_cast<T>(value - (op == kelCmpLess ? 1 : 0));
-  const T above = static_cast<T>(value + (op == kelCmpGreater ? 1 : 0));
-  lower = never ? Limits::max() : op <= kelCmpLessEq ? Limits::min() : above;
-  upper = never ? Limits::min() : op >= kelCmpGreaterEq ? Limits::max() : below;
-}
+constexpr std::uint32_t kReversing =
+    std::is_floating_point_v<T> ? std::uint32_t{1} << 31 : ~std::uint32_t{0};
 
 // value: one value for C1, else a pointer to as many as there are channels compared.
 template <class T, Layout kLayout, class Value>
 KelStatus imageAndConstant(const T* src, int srcStep, Value value, Kel8u* dst, int dstStep,
                            KeliSize size, KelCmpOp op) {
   if (!isRelation(op)) return kelStatusOk;
-  const Band<1> b =
-      makeBand(src, srcStep, dst, dstStep, static_cast<std::size_t>(size.width), size.height);
   Terms terms;
-  terms.lower = cycleOf<T, kLayout>(value);
-  if constexpr (std::is_floating_point_v<T>) {
-    // a > c is -a < -c, whatever a and c are.
-    if (op > kelCmpEq) {
-      terms.signs = std::uint32_t{1} << 31;
-      for (int k = 0; k < 4; ++k) terms.lower.bytes[sizeof(T) * k + 3] ^= 0x80;
-      op = exchanged(op);
+  terms.constants = cycleOf<T, kLayout>(value);
+  if (op > kelCmpEq) {
+    terms.flips = kReversing<T>;
+    for (std::size_t i = 0; i < 4 * sizeof(T); i += sizeof(T)) {
+      std::uint32_t bits = 0;
+      std::memcpy(&bits, terms.constants.bytes + i, sizeof(T));
+      bits ^= terms.flips;
+      std::memcpy(terms.constants.bytes + i, &bits, sizeof(T));
     }
-    return run<T, kLayout>(b, constantRows().relations[op], terms);
-  } else {
-    T lower[4], upper[4];
-    std::memcpy(lower, terms.lower.bytes, sizeof(lower));
-    for (int k = 0; k < 4; ++k) setRange<T>(lower[k], op, lower[k], upper[k]);
-    std::memcpy(terms.lower.bytes, lower, sizeof(lower));
-    std::memcpy(terms.upper.bytes, upper, sizeof(upper));
-    return run<T, kLayout>(b, rangeRows<T>().within, terms);
+    op = exchanged(op);
   }
+  const std::size_t width = static_cast<std::size_t>(size.width);
+  return run<T, kLayout>(makeBand(src, srcStep, dst, dstStep, width, size.height),
+                         compareRows<T>().imageAndConstant[op], terms);
 }
 
 // Whether four channels are compared in double precision: a promise, not a matter of speed.
@@ -113,7 +99,7 @@ KelStatus imageAndConstantWithin(const Kel32f* src, int srcStep, Value value, Ke
   if (kLayout == Layout::C4 && anyUnaligned(addressOf(src), srcStep, addressOf(dst), dstStep))
     kernels.c4 = equalEpsRows().imageAndConstantDouble;
   Terms terms;
-  terms.lower = cycleOf<Kel32f, kLayout>(value);
+  terms.constants = cycleOf<Kel32f, kLayout>(value);
   terms.eps = eps;
   const std::size_t width = static_cast<std::size_t>(size.width);
   return run<Kel32f, kLayout>(makeBand(src, srcStep, dst, dstStep, width, size.height), kernels,

@@ -11,8 +11,7 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
-constexpr compare::TwoImageRows kCompare16s = kTwoImageRows<Kel16s>;
-constexpr compare::RangeRows kRange16s = kRangeRows<Kel16s>;
+constexpr compare::CompareRows kCompare16s = kCompareRows<Kel16s>;
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
@@ -20,8 +19,6 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace keli::compare {
 template <>
-KELI_SELECT_ROWS(TwoImageRows, kCompare16s, twoImageRows<Kel16s>)
-template <>
-KELI_SELECT_ROWS(RangeRows, kRange16s, rangeRows<Kel16s>)
+KELI_SELECT_ROWS(CompareRows, kCompare16s, compareRows<Kel16s>)
 }  // namespace keli::compare
 #endif

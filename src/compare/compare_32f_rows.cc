@@ -11,9 +11,7 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
-constexpr compare::TwoImageRows kCompare32f = kTwoImageRows<Kel32f>;
-constexpr compare::ConstantRows kConstant32f = {
-    {kWithFloat<Less>, kWithFloat<LessEq>, kWithFloat<Equal>}};
+constexpr compare::CompareRows kCompare32f = kCompareRows<Kel32f>;
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
@@ -21,7 +19,6 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace keli::compare {
 template <>
-KELI_SELECT_ROWS(TwoImageRows, kCompare32f, twoImageRows<Kel32f>)
-KELI_SELECT_ROWS(ConstantRows, kConstant32f, constantRows)
+KELI_SELECT_ROWS(CompareRows, kCompare32f, compareRows<Kel32f>)
 }  // namespace keli::compare
 #endif

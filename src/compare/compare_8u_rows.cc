@@ -11,8 +11,7 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
-constexpr compare::TwoImageRows kCompare8u = kTwoImageRows<Kel8u>;
-constexpr compare::RangeRows kRange8u = kRangeRows<Kel8u>;
+constexpr compare::CompareRows kCompare8u = kCompareRows<Kel8u>;
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
@@ -20,8 +19,6 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace keli::compare {
 template <>
-KELI_SELECT_ROWS(TwoImageRows, kCompare8u, twoImageRows<Kel8u>)
-template <>
-KELI_SELECT_ROWS(RangeRows, kRange8u, rangeRows<Kel8u>)
+KELI_SELECT_ROWS(CompareRows, kCompare8u, compareRows<Kel8u>)
 }  // namespace keli::compare
 #endif

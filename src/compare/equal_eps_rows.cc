@@ -45,8 +45,8 @@ struct EqualEpsDouble : OfTwoImages {
 constexpr compare::EqualEpsRows kEqualEpsRows = {
     kTwoImages<EqualEps, Kel32f>,
     ownTwoImages<EqualEpsDouble, Kel32f, 4>,
-    kWithFloat<EqualEps>,
-    ownOneImage<WithFloat<EqualEpsDouble, 4>, Kel32f, 4>,
+    kWithConstant<EqualEps, Kel32f>,
+    ownOneImage<WithConstant<EqualEpsDouble, Kel32f, 4>, Kel32f, 4>,
 };
 
 }  // namespace keli::HWY_NAMESPACE

@@ -65,69 +65,36 @@ struct Equal : OfTwoImages {
   }
 };
 
-// The samples of a cycle of constants.
-template <class T, std::size_t kCycle, class D>
-HWY_INLINE hn::Vec<D> constantAt(D d, const Cycle& cycle, std::size_t phase) {
-  return repeatPixel<kCycle * sizeof(T)>(d, cycle.bytes, phase * sizeof(T));
-}
-template <class T>
-HWY_INLINE T constantOf(const Cycle& cycle, std::size_t phase) {
-  return load(reinterpret_cast<const T*>(cycle.bytes) + phase);
-}
-
-// A range that is empty has its lower end above its upper one, and then max(v, lower) is at least
-// lower, and min(v, upper) at most upper.
-template <class T, std::size_t kCycle>
-struct Within {
-  static constexpr std::size_t kPeriod = kCycle;
-  const compare::Terms& terms;
-
-  explicit Within(const compare::Terms& t) : terms(t) {}
-
-  template <class D>
-  struct Ends {
-    hn::Vec<D> lower, upper;
-  };
-  template <class D>
-  HWY_INLINE Ends<D> at(D d, std::size_t phase) const {
-    return {constantAt<T, kCycle>(d, terms.lower, phase),
-            constantAt<T, kCycle>(d, terms.upper, phase)};
-  }
-  template <class D, class V>
-  HWY_INLINE LanesOfMask<D> vector(D d, const Ends<D>& ends, V v) const {
-    return lanesOf(d, hn::Eq(hn::Max(v, ends.lower), hn::Min(v, ends.upper)));
-  }
-  HWY_INLINE bool scalar(std::size_t phase, T v) const {
-    return constantOf<T>(terms.lower, phase) <= v && v <= constantOf<T>(terms.upper, phase);
-  }
-};
-
-// A relation of floats with its second operand from a cycle of constants.
-template <class Relation, std::size_t kCycle>
-struct WithFloat {
+// A relation with its second operand from a cycle of constants.
+template <class Relation, class T, std::size_t kCycle>
+struct WithConstant {
+  using Bits = hwy::MakeUnsigned<T>;
   static constexpr std::size_t kPeriod = kCycle;
   const compare::Terms& terms;
   Relation relation;
 
-  explicit WithFloat(const compare::Terms& t) : terms(t), relation(t) {}
+  explicit WithConstant(const compare::Terms& t) : terms(t), relation(t) {}
 
   template <class D>
   struct Vectors {
-    decltype(std::declval<Relation>().at(D(), 0)) relation;
-    hn::Vec<D> constant, signs;
+    hn::Vec<D> constant, flips;
   };
   template <class D>
   HWY_INLINE Vectors<D> at(D d, std::size_t phase) const {
-    const hn::RebindToUnsigned<D> bits;
-    return {relation.at(d, 0), constantAt<Kel32f, kCycle>(d, terms.lower, phase),
-            hn::BitCast(d, hn::Set(bits, terms.signs))};
+    const auto flips = hn::Set(hn::RebindToUnsigned<D>(), static_cast<Bits>(terms.flips));
+    return {repeatPixel<kCycle * sizeof(T)>(d, terms.constants.bytes, phase * sizeof(T)),
+            hn::BitCast(d, flips)};
   }
   template <class D, class V>
   HWY_INLINE LanesOfMask<D> vector(D d, const Vectors<D>& k, V v) const {
-    return relation.vector(d, k.relation, hn::Xor(v, k.signs), k.constant);
+    return relation.vector(d, {}, hn::Xor(v, k.flips), k.constant);
   }
-  HWY_INLINE bool scalar(std::size_t phase, Kel32f v) const {
-    return relation.scalar(0, terms.signs != 0 ? -v : v, constantOf<Kel32f>(terms.lower, phase));
+  HWY_INLINE bool scalar(std::size_t phase, T v) const {
+    Bits bits;
+    std::memcpy(&bits, &v, sizeof(v));
+    bits ^= static_cast<Bits>(terms.flips);
+    std::memcpy(&v, &bits, sizeof(v));
+    return relation.scalar(0, v, load(reinterpret_cast<const T*>(terms.constants.bytes) + phase));
   }
 };
 
@@ -145,19 +112,15 @@ template <class Op, class T>
 constexpr compare::Kernels<2> kTwoImages = {ownTwoImages<Op, T, 1>, ownTwoImages<Op, T, 3>,
                                             ownTwoImages<Op, T, 4>};
 
-template <class T>
-constexpr compare::TwoImageRows kTwoImageRows = {
-    {kTwoImages<Less, T>, kTwoImages<LessEq, T>, kTwoImages<Equal, T>}};
+template <class Relation, class T>
+constexpr compare::Kernels<1> kWithConstant = {ownOneImage<WithConstant<Relation, T, 4>, T, 1>,
+                                               ownOneImage<WithConstant<Relation, T, 3>, T, 3>,
+                                               ownOneImage<WithConstant<Relation, T, 4>, T, 4>};
 
 template <class T>
-constexpr compare::RangeRows kRangeRows = {{ownOneImage<Within<T, 4>, T, 1>,
-                                            ownOneImage<Within<T, 3>, T, 3>,
-                                            ownOneImage<Within<T, 4>, T, 4>}};
-
-template <class Relation>
-constexpr compare::Kernels<1> kWithFloat = {ownOneImage<WithFloat<Relation, 4>, Kel32f, 1>,
-                                            ownOneImage<WithFloat<Relation, 3>, Kel32f, 3>,
-                                            ownOneImage<WithFloat<Relation, 4>, Kel32f, 4>};
+constexpr compare::CompareRows kCompareRows = {
+    {kTwoImages<Less, T>, kTwoImages<LessEq, T>, kTwoImages<Equal, T>},
+    {kWithConstant<Less, T>, kWithConstant<LessEq, T>, kWithConstant<Equal, T>}};
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();

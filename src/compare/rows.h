@@ -8,8 +8,8 @@ namespace keli::compare {
 
 // What a kernel compares with, besides images.
 struct Terms {
-  Cycle lower, upper;         // the ends of a range; of floats lower alone
-  std::uint32_t signs = 0;    // sign bits that are flipped in floats before they are compared
+  Cycle constants;
+  std::uint32_t flips = 0;    // bits of samples that are flipped before these are compared
   std::uint32_t ignored = 0;  // bits of four bytes, one for each channel, that do not count
   Kel32f eps = 0;
 };
@@ -22,22 +22,13 @@ struct Kernels {
   Kernel c4;
 };
 
-// src1 against src2, by KelCmpOp up to kelCmpEq.
-struct TwoImageRows {
-  Kernels<2> relations[3];
+// By KelCmpOp, up to kelCmpEq: src1 against src2, and src, flipped, against constants.
+struct CompareRows {
+  Kernels<2> twoImages[3];
+  Kernels<1> imageAndConstant[3];
 };
 
-// Integers: lower <= src <= upper.
-struct RangeRows {
-  Kernels<1> within;
-};
-
-// Floats, with flipped signs where the terms say so, against lower, by KelCmpOp up to kelCmpEq.
-struct ConstantRows {
-  Kernels<1> relations[3];
-};
-
-// |src1 - src2| <= eps and |src - lower| <= eps, in single precision, and of four channels in
+// |src1 - src2| <= eps and |src - constant| <= eps, in single precision, and of four channels in
 // double.
 struct EqualEpsRows {
   Kernels<2> twoImages;
@@ -48,10 +39,7 @@ struct EqualEpsRows {
 
 // Defined in the rows files.
 template <class T>
-const TwoImageRows& twoImageRows();
-template <class T>
-const RangeRows& rangeRows();
-const ConstantRows& constantRows();
+const CompareRows& compareRows();
 const EqualEpsRows& equalEpsRows();
 
 }  // namespace keli::compare

@@ -183,15 +183,15 @@ namespace predicate {
 
 template <class Op, class T, std::size_t kChannels>
 struct Row {
-  // Steps of so few instructions that the loop around them weighs.
-  static constexpr std::size_t kUnroll = kChannels * sizeof(T) == 1 ? 4 : 1;
+  // Steps whose loads are made before their stores, which later loads might wait for.
+  static constexpr std::size_t kUnroll = std::max<std::size_t>(4 / (kChannels * sizeof(T)), 1);
 
   const Op& op;
   std::uint32_t ignored;
 
   template <class... TS>
   HWY_INLINE void pixels(std::size_t n, std::uint8_t* dst, const TS*... src) const {
-    const std::size_t used = ignored != 0 ? 3 : kChannels;
+    const std::size_t used = kChannels == 4 && ignored != 0 ? 3 : kChannels;
     for (std::size_t x = 0; x < n; ++x) {
       bool holds = true;
       for (std::size_t k = 0; k < used; ++k)
@@ -217,8 +217,12 @@ struct Row {
     };
     std::size_t x = 0;
     for (; kUnroll > 1 && x + kUnroll * kBytes <= end; x += kUnroll * kBytes) {
+      hn::Vec<decltype(d)> v[kUnroll];
+      unrolled<kUnroll>([&](auto u)
+                            KELI_LAMBDA { v[u] = step((src + (x + u * kBytes) * kChannels)...); });
       unrolled<kUnroll>([&](auto u) KELI_LAMBDA {
-        put(step((src + (x + u * kBytes) * kChannels)...), x + u * kBytes);
+        put(v[u], x + u * kBytes);
+        keepOrder();
       });
     }
     for (; x < end; x += kBytes) put(step((src + x * kChannels)...), x);

@@ -37,8 +37,11 @@ HWY_INLINE V whereAbove(V t, V v, V yes, V no) {
   }
 }
 
+// kVectorBytes: longer vectors for the forms that blend, which instructions bound in the
+// first-level cache.
 struct Raise {
   static constexpr std::size_t kValues = 1;
+  static constexpr std::size_t kVectorBytes = 32;
   template <class D, class V>
   static HWY_INLINE V vector(D, const V (&k)[1], V v) {
     return greaterElse(v, k[0]);
@@ -51,6 +54,7 @@ struct Raise {
 
 struct Lower {
   static constexpr std::size_t kValues = 1;
+  static constexpr std::size_t kVectorBytes = 32;
   template <class D, class V>
   static HWY_INLINE V vector(D, const V (&k)[1], V v) {
     return lessElse(v, k[0]);
@@ -63,6 +67,7 @@ struct Lower {
 
 struct ReplaceBelow {
   static constexpr std::size_t kValues = 2;
+  static constexpr std::size_t kVectorBytes = 64;
   template <class D, class V>
   static HWY_INLINE V vector(D, const V (&k)[2], V v) {
     return whereFrom(k[0], v, v, k[1]);
@@ -75,6 +80,7 @@ struct ReplaceBelow {
 
 struct ReplaceAbove {
   static constexpr std::size_t kValues = 2;
+  static constexpr std::size_t kVectorBytes = 64;
   template <class D, class V>
   static HWY_INLINE V vector(D, const V (&k)[2], V v) {
     return whereAbove(k[0], v, k[1], v);
@@ -87,6 +93,7 @@ struct ReplaceAbove {
 
 struct ReplaceOutside {
   static constexpr std::size_t kValues = 4;
+  static constexpr std::size_t kVectorBytes = 64;
   template <class D, class V>
   static HWY_INLINE V vector(D, const V (&k)[4], V v) {
     return whereFrom(k[0], v, whereAbove(k[2], v, k[3], v), k[1]);
@@ -102,6 +109,7 @@ template <class Form, class T, std::size_t kCycle>
 struct Threshold {
   static constexpr std::size_t kPeriod = kCycle;
   static constexpr std::size_t kUnroll = kCycle % 3 == 0 ? 3 : 4;
+  static constexpr std::size_t kVectorBytes = Form::kVectorBytes;
   static constexpr std::size_t kValues = Form::kValues;
 
   const Cycle* cycles;

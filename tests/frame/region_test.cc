@@ -143,10 +143,13 @@ const Function* outOfPlace(const Function& f) {
   return registry::find(name);
 }
 
+// The index of a parameter that both forms have.
 std::size_t parameter(const Function& f, const std::string& name) {
-  std::size_t i = 0;
-  while (f.arguments[i].name != name) ++i;
-  return i;
+  for (std::size_t i = 0; i < f.arguments.size; ++i) {
+    if (f.arguments[i].name == name) return i;
+  }
+  ADD_FAILURE() << f.name << " has no " << name;
+  return 0;
 }
 
 TEST(Region, InPlaceEqualsOutOfPlace) {
