@@ -108,7 +108,7 @@ struct ReplaceOutside {
 template <class Form, class T, std::size_t kCycle>
 struct Threshold {
   static constexpr std::size_t kPeriod = kCycle;
-  static constexpr std::size_t kUnroll = kCycle % 3 == 0 ? 3 : 4;
+  static constexpr std::size_t kUnroll = kCycle % 3 != 0 ? 4 : Form::kValues > 2 ? 3 : 6;
   static constexpr std::size_t kVectorBytes = Form::kVectorBytes;
   static constexpr std::size_t kValues = Form::kValues;
 
