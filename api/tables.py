@@ -11,7 +11,7 @@ from dataclasses import dataclass, field
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-TABLES = ["core", "data", "arith", "division", "complex", "math", "logic", "sums", "norms", "histogram"]
+TABLES = ["core", "data", "arith", "division", "complex", "math", "logic", "threshold", "compare", "sums", "norms", "histogram"]
 
 # Names whose role needs no mention in a table; every other argument is written name:role[:type].
 ROLE_OF_NAME = {
@@ -68,9 +68,8 @@ class Function:
 
     @property
     def operation(self):
-        """The name without prefix, types and descriptor: Add, Norm_L2."""
-        return self.name[4:].rsplit("_", 2)[0] if self.descriptor else \
-            re.match(r"keli([^_]+)", self.name)[1]
+        """The name up to the types: of keliThreshold_GT_8u_C1R it is Threshold_GT."""
+        return re.match(r"keli(.+?)(?=_\d|$)", self.name)[1]
 
     @property
     def parallel(self):

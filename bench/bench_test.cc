@@ -95,6 +95,37 @@ TEST(Limits, MovesOfUnequalSizesLeaveTheLargerSourceAlone) {
   EXPECT_EQ(allBytes(frame.destination()), destination);
 }
 
+// Of sources without a bit, or with one in a row's first or last byte.
+TEST(Limits, FoldsReadAllAndWriteTheRegionAndNothingElse) {
+  for (const char* name : {"keliCompare_16s_C3R", "keliCompareC_8u_C4R", "keliCompareC_16s_C1R"}) {
+    for (const Size size : kSizes) {
+      const Frame frame(function(name), size, {});
+      const Image& image = frame.destination();
+      const Image& last = frame.source(frame.sourceCount() - 1);
+      for (std::size_t i = 0; i < frame.sourceCount(); ++i) frame.source(i).fillBytes(0);
+      const std::size_t rowBytes = last.samplesPerPixel() * bytesOf(last.type()) * size.width;
+      std::uint8_t* const row = last.data() + (size.height - 1) * last.step();
+      for (const LimitVariant& v : limitVariants(Limit::kFold, frame)) {
+        for (std::uint8_t* const set :
+             {static_cast<std::uint8_t*>(nullptr), row, row + rowBytes - 1}) {
+          if (set != nullptr) *set = 4;
+          frame.resetDestination();
+          v.work();
+          if (set != nullptr) *set = 0;
+          const std::vector<std::uint8_t> after = allBytes(image);
+          std::ptrdiff_t found = 0;
+          for (std::size_t i = 0; i < after.size(); ++i) {
+            const bool inside = i % image.step() < static_cast<std::size_t>(size.width);
+            ASSERT_TRUE(inside ? after[i] == 0 || after[i] == 4 : after[i] == 0x5A) << v.name;
+            found += after[i] == 4;
+          }
+          EXPECT_EQ(found, set != nullptr) << v.name << " " << name << " " << nameOf(size);
+        }
+      }
+    }
+  }
+}
+
 // A peer that does what the function does and then changes one byte of the region.
 std::string compareWithChange(const char* name, std::size_t byte, int change, double tolerance) {
   const Frame frame(function(name), {9, 4, 0}, {});

@@ -19,6 +19,9 @@ namespace {
 using Mover = void (*)(std::uint8_t* to, const std::uint8_t* from, std::size_t bytes);
 using Joiner = void (*)(std::uint8_t* to, const std::uint8_t* a, const std::uint8_t* b,
                         std::size_t bytes);
+// Of two sources, which are the same where there is one; bytes: of the destination.
+using Folder = void (*)(std::uint8_t* to, const std::uint8_t* a, const std::uint8_t* b,
+                        std::size_t bytes);
 using Filler = void (*)(std::uint8_t* to, std::size_t bytes);
 using Reader = std::uint64_t (*)(const std::uint8_t* from, std::size_t bytes);
 
@@ -26,6 +29,14 @@ constexpr std::size_t kPiece = 4096;
 constexpr std::uint8_t kFillByte = 0x11;
 
 inline void barrier() { asm volatile("" ::: "memory"); }
+
+template <int kRatio>
+void foldBytes(std::uint8_t* to, const std::uint8_t* a, const std::uint8_t* b, std::size_t bytes) {
+  for (std::size_t i = 0; i < bytes; ++i) {
+    to[i] = 0;
+    for (std::size_t k = kRatio * i; k < kRatio * (i + 1); ++k) to[i] |= a[k] | b[k];
+  }
+}
 
 void moveAtOnce(std::uint8_t* to, const std::uint8_t* from, std::size_t bytes) {
   std::memcpy(to, from, bytes);
@@ -114,6 +125,26 @@ KELI_BENCH_AVX2 void joinVectors(std::uint8_t* to, const std::uint8_t* a, const 
     barrier();
   }
   joinWords(to + i, a + i, b + i, bytes - i);
+  if constexpr (kStream) _mm_sfence();
+}
+
+// Of each source kRatio vectors for one that is written.
+template <int kRatio, bool kStream>
+KELI_BENCH_AVX2 void foldVectors(std::uint8_t* to, const std::uint8_t* a, const std::uint8_t* b,
+                                 std::size_t bytes) {
+  std::size_t i = 0;
+  for (; i + kVector <= bytes; i += kVector) {
+    __m256i v = _mm256_setzero_si256();
+    for (int k = 0; k < kRatio; ++k) {
+      const auto* x = reinterpret_cast<const __m256i*>(a + kRatio * i + k * kVector);
+      const auto* y = reinterpret_cast<const __m256i*>(b + kRatio * i + k * kVector);
+      v = _mm256_or_si256(v, _mm256_loadu_si256(x));
+      if (a != b) v = _mm256_or_si256(v, _mm256_loadu_si256(y));
+    }
+    storeVector<kStream>(to + i, v);
+    barrier();
+  }
+  foldBytes<kRatio>(to + i, a + kRatio * i, b + kRatio * i, bytes - i);
   if constexpr (kStream) _mm_sfence();
 }
 
@@ -211,6 +242,31 @@ std::vector<Named<Joiner>> joiners() {
   return result;
 }
 
+template <int kRatio>
+void addFolders(std::size_t ratio, std::vector<Named<Folder>>& result) {
+  if (ratio != kRatio) return;
+  result.push_back({"bytes", foldBytes<kRatio>});
+#ifdef KELI_BENCH_AVX2
+  if (hasVectors()) {
+    result.push_back({"stores", foldVectors<kRatio, false>});
+    result.push_back({"streaming", foldVectors<kRatio, true>});
+  }
+#endif
+}
+
+// For samples of a pixel of one to four channels.
+std::vector<Named<Folder>> folders(std::size_t ratio) {
+  std::vector<Named<Folder>> result;
+  addFolders<2>(ratio, result);
+  addFolders<3>(ratio, result);
+  addFolders<4>(ratio, result);
+  addFolders<6>(ratio, result);
+  addFolders<8>(ratio, result);
+  addFolders<12>(ratio, result);
+  addFolders<16>(ratio, result);
+  return result;
+}
+
 std::vector<Named<Filler>> fillers() {
   std::vector<Named<Filler>> result = {{"memset", fillAtOnce}, {"memset of 4 KiB", fillInPieces}};
 #ifdef KELI_BENCH_AVX2
@@ -283,6 +339,30 @@ std::vector<LimitVariant> joins(Block to, Block a, Block b) {
   return result;
 }
 
+// Row by row, though nothing may separate them.
+Block rowsOf(const Image& image) {
+  const std::size_t height = static_cast<std::size_t>(image.height());
+  return {image.data(), image.block().bytes() / height, static_cast<std::size_t>(image.step()),
+          height};
+}
+
+std::vector<LimitVariant> folds(const Image& dst, const Image& first, const Image& last) {
+  const bool whole = dst.block().rows == 1 && first.block().rows == 1;
+  const Block to = whole ? dst.block() : rowsOf(dst);
+  const Block a = whole ? first.block() : rowsOf(first), b = whole ? last.block() : rowsOf(last);
+  std::vector<LimitVariant> result;
+  for (const auto& [name, fold] : folders(a.bytes() / to.bytes())) {
+    const Folder folder = fold;
+    result.push_back({name, [to, a, b, folder] {
+                        for (std::size_t y = 0; y < to.rows; ++y) {
+                          folder(to.data + y * to.step, a.data + y * a.step, b.data + y * b.step,
+                                 to.rowBytes);
+                        }
+                      }});
+  }
+  return result;
+}
+
 std::vector<LimitVariant> fills(Block to) {
   std::vector<LimitVariant> result;
   for (const auto& [name, fill] : fillers()) {
@@ -329,6 +409,8 @@ std::vector<LimitVariant> limitVariants(Limit limit, const Frame& frame) {
       return fills(to);
     case Limit::kRead:
       return reads(sourcesOf(frame));
+    case Limit::kFold:
+      return folds(frame.destination(), frame.source(), frame.source(frame.sourceCount() - 1));
     default:
       if (frame.sourceCount() == 2)
         return joins(to, frame.source(0).block(), frame.source(1).block());

@@ -14,6 +14,7 @@ enum class Limit {
           // place
   kFill,  // writing the destination
   kRead,  // reading the sources
+  kFold,  // reading the sources and writing a destination that is smaller by a whole factor
 };
 
 using Work = std::function<void()>;

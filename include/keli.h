@@ -1843,6 +1843,364 @@ KELI_API KelStatus keliRShiftC_32s_C3IR(const uint32_t value[3], Kel32s* pSrcDst
 KELI_API KelStatus keliRShiftC_32s_C4IR(const uint32_t value[4], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
 KELI_API KelStatus keliRShiftC_32s_AC4IR(const uint32_t value[3], Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize);
 
+/* ==== Thresholds ==== */
+
+/**
+ * Replaces the samples beyond a threshold by the threshold.
+ *
+ *     dst = src < threshold ? threshold : src (kelCmpLess); src > threshold ? threshold : src (kelCmpGreater)
+ *
+ * The threshold is one value for C1, and an array of three, one for each channel, for C3 and
+ * AC4. cmpOp is kelCmpLess, which replaces what is below the threshold, or kelCmpGreater, which
+ * replaces what is above it. Of 32f the result is src > threshold ? src : threshold for
+ * kelCmpLess and src < threshold ? src : threshold for kelCmpGreater: a sample or a threshold
+ * that is not a number gives the threshold, and so does a zero of either sign for a threshold
+ * of zero. AC4 leaves the fourth sample of every pixel as it was. The operation is checked last
+ * of all.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusNullPointer if an
+ * array of values is null; kelStatusBadCompareOp if cmpOp is neither kelCmpLess nor
+ * kelCmpGreater.
+ */
+KELI_API KelStatus keliThreshold_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel8u threshold, KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u threshold[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u threshold[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_8u_C1IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, Kel8u threshold, KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_8u_C3IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u threshold[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_8u_AC4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u threshold[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, Kel16s threshold, KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s threshold[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s threshold[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_16s_C1IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, Kel16s threshold, KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_16s_C3IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s threshold[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_16s_AC4IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s threshold[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, Kel32f threshold, KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f threshold[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f threshold[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, Kel32f threshold, KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f threshold[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f threshold[3], KelCmpOp cmpOp);
+
+/**
+ * Replaces the samples below a threshold by the threshold.
+ *
+ *     dst = src < threshold ? threshold : src
+ *
+ * The same as Threshold with kelCmpLess. The threshold is one value for C1, and an array of
+ * three, one for each channel, for C3 and AC4. Of 32f the result is src > threshold ? src :
+ * threshold, so that a sample that is not a number becomes the threshold. AC4 leaves the fourth
+ * sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusNullPointer if an
+ * array of values is null.
+ */
+KELI_API KelStatus keliThreshold_LT_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel8u threshold);
+KELI_API KelStatus keliThreshold_LT_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u threshold[3]);
+KELI_API KelStatus keliThreshold_LT_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u threshold[3]);
+KELI_API KelStatus keliThreshold_LT_8u_C1IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, Kel8u threshold);
+KELI_API KelStatus keliThreshold_LT_8u_C3IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u threshold[3]);
+KELI_API KelStatus keliThreshold_LT_8u_AC4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u threshold[3]);
+KELI_API KelStatus keliThreshold_LT_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, Kel16s threshold);
+KELI_API KelStatus keliThreshold_LT_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s threshold[3]);
+KELI_API KelStatus keliThreshold_LT_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s threshold[3]);
+KELI_API KelStatus keliThreshold_LT_16s_C1IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, Kel16s threshold);
+KELI_API KelStatus keliThreshold_LT_16s_C3IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s threshold[3]);
+KELI_API KelStatus keliThreshold_LT_16s_AC4IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s threshold[3]);
+KELI_API KelStatus keliThreshold_LT_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, Kel32f threshold);
+KELI_API KelStatus keliThreshold_LT_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f threshold[3]);
+KELI_API KelStatus keliThreshold_LT_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f threshold[3]);
+KELI_API KelStatus keliThreshold_LT_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, Kel32f threshold);
+KELI_API KelStatus keliThreshold_LT_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f threshold[3]);
+KELI_API KelStatus keliThreshold_LT_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f threshold[3]);
+
+/**
+ * Replaces the samples above a threshold by the threshold.
+ *
+ *     dst = src > threshold ? threshold : src
+ *
+ * The same as Threshold with kelCmpGreater. The threshold is one value for C1, and an array of
+ * three, one for each channel, for C3 and AC4. Of 32f the result is src < threshold ? src :
+ * threshold, so that a sample that is not a number becomes the threshold. AC4 leaves the fourth
+ * sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusNullPointer if an
+ * array of values is null.
+ */
+KELI_API KelStatus keliThreshold_GT_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel8u threshold);
+KELI_API KelStatus keliThreshold_GT_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u threshold[3]);
+KELI_API KelStatus keliThreshold_GT_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u threshold[3]);
+KELI_API KelStatus keliThreshold_GT_8u_C1IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, Kel8u threshold);
+KELI_API KelStatus keliThreshold_GT_8u_C3IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u threshold[3]);
+KELI_API KelStatus keliThreshold_GT_8u_AC4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u threshold[3]);
+KELI_API KelStatus keliThreshold_GT_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, Kel16s threshold);
+KELI_API KelStatus keliThreshold_GT_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s threshold[3]);
+KELI_API KelStatus keliThreshold_GT_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s threshold[3]);
+KELI_API KelStatus keliThreshold_GT_16s_C1IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, Kel16s threshold);
+KELI_API KelStatus keliThreshold_GT_16s_C3IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s threshold[3]);
+KELI_API KelStatus keliThreshold_GT_16s_AC4IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s threshold[3]);
+KELI_API KelStatus keliThreshold_GT_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, Kel32f threshold);
+KELI_API KelStatus keliThreshold_GT_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f threshold[3]);
+KELI_API KelStatus keliThreshold_GT_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f threshold[3]);
+KELI_API KelStatus keliThreshold_GT_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, Kel32f threshold);
+KELI_API KelStatus keliThreshold_GT_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f threshold[3]);
+KELI_API KelStatus keliThreshold_GT_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f threshold[3]);
+
+/**
+ * Replaces the samples beyond a threshold by a value.
+ *
+ *     dst = src < threshold ? value : src (kelCmpLess); src > threshold ? value : src (kelCmpGreater)
+ *
+ * Threshold and value are one each for C1, and arrays of three, one for each channel, for C3
+ * and AC4. cmpOp is kelCmpLess, which replaces what is below the threshold, or kelCmpGreater,
+ * which replaces what is above it; a sample equal to the threshold is kept. Of 32f kelCmpLess
+ * keeps a sample where threshold <= src, and so replaces one that is not a number;
+ * kelCmpGreater replaces it where threshold < src, and so keeps one that is not a number. AC4
+ * leaves the fourth sample of every pixel as it was. The operation is checked first, even
+ * before null pointers.
+ *
+ * Checks, in order: kelStatusBadCompareOp if cmpOp is neither kelCmpLess nor kelCmpGreater;
+ * kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is below 1 in width or
+ * height; kelStatusBadStep if a step is below 1; kelStatusNullPointer if an array of values is
+ * null.
+ */
+KELI_API KelStatus keliThreshold_Val_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel8u threshold, Kel8u value, KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u threshold[3], const Kel8u value[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u threshold[3], const Kel8u value[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_8u_C1IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, Kel8u threshold, Kel8u value, KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_8u_C3IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u threshold[3], const Kel8u value[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_8u_AC4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u threshold[3], const Kel8u value[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, Kel16s threshold, Kel16s value, KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s threshold[3], const Kel16s value[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s threshold[3], const Kel16s value[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_16s_C1IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, Kel16s threshold, Kel16s value, KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_16s_C3IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s threshold[3], const Kel16s value[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_16s_AC4IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s threshold[3], const Kel16s value[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, Kel32f threshold, Kel32f value, KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f threshold[3], const Kel32f value[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f threshold[3], const Kel32f value[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, Kel32f threshold, Kel32f value, KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f threshold[3], const Kel32f value[3], KelCmpOp cmpOp);
+KELI_API KelStatus keliThreshold_Val_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f threshold[3], const Kel32f value[3], KelCmpOp cmpOp);
+
+/**
+ * Replaces the samples below a threshold by a value.
+ *
+ *     dst = src < threshold ? value : src
+ *
+ * The same as Threshold_Val with kelCmpLess, and for C4 too. Threshold and value are one each
+ * for C1, and arrays of one for each channel otherwise (three for C3 and AC4, four for C4). Of
+ * 32f a sample is kept where threshold <= src, so that one that is not a number is replaced.
+ * AC4 leaves the fourth sample of every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusNullPointer if an
+ * array of values is null.
+ */
+KELI_API KelStatus keliThreshold_LTVal_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel8u threshold, Kel8u value);
+KELI_API KelStatus keliThreshold_LTVal_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u threshold[3], const Kel8u value[3]);
+KELI_API KelStatus keliThreshold_LTVal_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u threshold[3], const Kel8u value[3]);
+KELI_API KelStatus keliThreshold_LTVal_8u_C4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u threshold[4], const Kel8u value[4]);
+KELI_API KelStatus keliThreshold_LTVal_8u_C1IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, Kel8u threshold, Kel8u value);
+KELI_API KelStatus keliThreshold_LTVal_8u_C3IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u threshold[3], const Kel8u value[3]);
+KELI_API KelStatus keliThreshold_LTVal_8u_AC4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u threshold[3], const Kel8u value[3]);
+KELI_API KelStatus keliThreshold_LTVal_8u_C4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u threshold[4], const Kel8u value[4]);
+KELI_API KelStatus keliThreshold_LTVal_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, Kel16s threshold, Kel16s value);
+KELI_API KelStatus keliThreshold_LTVal_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s threshold[3], const Kel16s value[3]);
+KELI_API KelStatus keliThreshold_LTVal_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s threshold[3], const Kel16s value[3]);
+KELI_API KelStatus keliThreshold_LTVal_16s_C4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s threshold[4], const Kel16s value[4]);
+KELI_API KelStatus keliThreshold_LTVal_16s_C1IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, Kel16s threshold, Kel16s value);
+KELI_API KelStatus keliThreshold_LTVal_16s_C3IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s threshold[3], const Kel16s value[3]);
+KELI_API KelStatus keliThreshold_LTVal_16s_AC4IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s threshold[3], const Kel16s value[3]);
+KELI_API KelStatus keliThreshold_LTVal_16s_C4IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s threshold[4], const Kel16s value[4]);
+KELI_API KelStatus keliThreshold_LTVal_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, Kel32f threshold, Kel32f value);
+KELI_API KelStatus keliThreshold_LTVal_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f threshold[3], const Kel32f value[3]);
+KELI_API KelStatus keliThreshold_LTVal_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f threshold[3], const Kel32f value[3]);
+KELI_API KelStatus keliThreshold_LTVal_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f threshold[4], const Kel32f value[4]);
+KELI_API KelStatus keliThreshold_LTVal_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, Kel32f threshold, Kel32f value);
+KELI_API KelStatus keliThreshold_LTVal_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f threshold[3], const Kel32f value[3]);
+KELI_API KelStatus keliThreshold_LTVal_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f threshold[3], const Kel32f value[3]);
+KELI_API KelStatus keliThreshold_LTVal_32f_C4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f threshold[4], const Kel32f value[4]);
+
+/**
+ * Replaces the samples above a threshold by a value.
+ *
+ *     dst = src > threshold ? value : src
+ *
+ * The same as Threshold_Val with kelCmpGreater, and for C4 too. Threshold and value are one
+ * each for C1, and arrays of one for each channel otherwise (three for C3 and AC4, four for
+ * C4). Of 32f a sample that is not a number is kept. AC4 leaves the fourth sample of every
+ * pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusNullPointer if an
+ * array of values is null.
+ */
+KELI_API KelStatus keliThreshold_GTVal_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel8u threshold, Kel8u value);
+KELI_API KelStatus keliThreshold_GTVal_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u threshold[3], const Kel8u value[3]);
+KELI_API KelStatus keliThreshold_GTVal_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u threshold[3], const Kel8u value[3]);
+KELI_API KelStatus keliThreshold_GTVal_8u_C4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u threshold[4], const Kel8u value[4]);
+KELI_API KelStatus keliThreshold_GTVal_8u_C1IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, Kel8u threshold, Kel8u value);
+KELI_API KelStatus keliThreshold_GTVal_8u_C3IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u threshold[3], const Kel8u value[3]);
+KELI_API KelStatus keliThreshold_GTVal_8u_AC4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u threshold[3], const Kel8u value[3]);
+KELI_API KelStatus keliThreshold_GTVal_8u_C4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u threshold[4], const Kel8u value[4]);
+KELI_API KelStatus keliThreshold_GTVal_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, Kel16s threshold, Kel16s value);
+KELI_API KelStatus keliThreshold_GTVal_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s threshold[3], const Kel16s value[3]);
+KELI_API KelStatus keliThreshold_GTVal_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s threshold[3], const Kel16s value[3]);
+KELI_API KelStatus keliThreshold_GTVal_16s_C4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s threshold[4], const Kel16s value[4]);
+KELI_API KelStatus keliThreshold_GTVal_16s_C1IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, Kel16s threshold, Kel16s value);
+KELI_API KelStatus keliThreshold_GTVal_16s_C3IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s threshold[3], const Kel16s value[3]);
+KELI_API KelStatus keliThreshold_GTVal_16s_AC4IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s threshold[3], const Kel16s value[3]);
+KELI_API KelStatus keliThreshold_GTVal_16s_C4IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s threshold[4], const Kel16s value[4]);
+KELI_API KelStatus keliThreshold_GTVal_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, Kel32f threshold, Kel32f value);
+KELI_API KelStatus keliThreshold_GTVal_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f threshold[3], const Kel32f value[3]);
+KELI_API KelStatus keliThreshold_GTVal_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f threshold[3], const Kel32f value[3]);
+KELI_API KelStatus keliThreshold_GTVal_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f threshold[4], const Kel32f value[4]);
+KELI_API KelStatus keliThreshold_GTVal_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, Kel32f threshold, Kel32f value);
+KELI_API KelStatus keliThreshold_GTVal_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f threshold[3], const Kel32f value[3]);
+KELI_API KelStatus keliThreshold_GTVal_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f threshold[3], const Kel32f value[3]);
+KELI_API KelStatus keliThreshold_GTVal_32f_C4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f threshold[4], const Kel32f value[4]);
+
+/**
+ * Replaces the samples below one threshold by a value, and those above another by another.
+ *
+ *     dst = src < thresholdLT ? valueLT : src > thresholdGT ? valueGT : src
+ *
+ * Thresholds and values are one each for C1, and arrays of three, one for each channel, for C3
+ * and AC4. A sample equal to a threshold is kept. Of 32f a sample that is not a number gives
+ * valueLT, and a threshold that is not a number is a bad one. AC4 leaves the fourth sample of
+ * every pixel as it was.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusNullPointer if an
+ * array of values is null; kelStatusBadThresholds if not thresholdGT >= thresholdLT, in any
+ * channel.
+ */
+KELI_API KelStatus keliThreshold_LTValGTVal_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel8u thresholdLT, Kel8u valueLT, Kel8u thresholdGT, Kel8u valueGT);
+KELI_API KelStatus keliThreshold_LTValGTVal_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u thresholdLT[3], const Kel8u valueLT[3], const Kel8u thresholdGT[3], const Kel8u valueGT[3]);
+KELI_API KelStatus keliThreshold_LTValGTVal_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u thresholdLT[3], const Kel8u valueLT[3], const Kel8u thresholdGT[3], const Kel8u valueGT[3]);
+KELI_API KelStatus keliThreshold_LTValGTVal_8u_C1IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, Kel8u thresholdLT, Kel8u valueLT, Kel8u thresholdGT, Kel8u valueGT);
+KELI_API KelStatus keliThreshold_LTValGTVal_8u_C3IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u thresholdLT[3], const Kel8u valueLT[3], const Kel8u thresholdGT[3], const Kel8u valueGT[3]);
+KELI_API KelStatus keliThreshold_LTValGTVal_8u_AC4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel8u thresholdLT[3], const Kel8u valueLT[3], const Kel8u thresholdGT[3], const Kel8u valueGT[3]);
+KELI_API KelStatus keliThreshold_LTValGTVal_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, Kel16s thresholdLT, Kel16s valueLT, Kel16s thresholdGT, Kel16s valueGT);
+KELI_API KelStatus keliThreshold_LTValGTVal_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s thresholdLT[3], const Kel16s valueLT[3], const Kel16s thresholdGT[3], const Kel16s valueGT[3]);
+KELI_API KelStatus keliThreshold_LTValGTVal_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel16s thresholdLT[3], const Kel16s valueLT[3], const Kel16s thresholdGT[3], const Kel16s valueGT[3]);
+KELI_API KelStatus keliThreshold_LTValGTVal_16s_C1IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, Kel16s thresholdLT, Kel16s valueLT, Kel16s thresholdGT, Kel16s valueGT);
+KELI_API KelStatus keliThreshold_LTValGTVal_16s_C3IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s thresholdLT[3], const Kel16s valueLT[3], const Kel16s thresholdGT[3], const Kel16s valueGT[3]);
+KELI_API KelStatus keliThreshold_LTValGTVal_16s_AC4IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel16s thresholdLT[3], const Kel16s valueLT[3], const Kel16s thresholdGT[3], const Kel16s valueGT[3]);
+KELI_API KelStatus keliThreshold_LTValGTVal_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, Kel32f thresholdLT, Kel32f valueLT, Kel32f thresholdGT, Kel32f valueGT);
+KELI_API KelStatus keliThreshold_LTValGTVal_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f thresholdLT[3], const Kel32f valueLT[3], const Kel32f thresholdGT[3], const Kel32f valueGT[3]);
+KELI_API KelStatus keliThreshold_LTValGTVal_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f thresholdLT[3], const Kel32f valueLT[3], const Kel32f thresholdGT[3], const Kel32f valueGT[3]);
+KELI_API KelStatus keliThreshold_LTValGTVal_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, Kel32f thresholdLT, Kel32f valueLT, Kel32f thresholdGT, Kel32f valueGT);
+KELI_API KelStatus keliThreshold_LTValGTVal_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f thresholdLT[3], const Kel32f valueLT[3], const Kel32f thresholdGT[3], const Kel32f valueGT[3]);
+KELI_API KelStatus keliThreshold_LTValGTVal_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, const Kel32f thresholdLT[3], const Kel32f valueLT[3], const Kel32f thresholdGT[3], const Kel32f valueGT[3]);
+
+/* ==== Comparisons ==== */
+
+/**
+ * Compares two images, pixel by pixel, and writes a mask.
+ *
+ *     dst = src1 op src2 in every channel ? 255 : 0
+ *
+ * op is <, <=, ==, >= or >, as cmpOp says. The mask has one channel of 8u whatever the layout
+ * of the sources; where these have several channels, the relation must hold in each: in the
+ * first three for AC4, whose fourth is ignored, and in all four for C4. Of 32f a relation with
+ * a sample that is not a number is false, == too, and zeros of both signs are equal. With any
+ * other cmpOp the function returns kelStatusOk and writes nothing. Steps are checked before
+ * sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliCompare_8u_C1R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_8u_C3R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_8u_C4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_8u_AC4R(const Kel8u* pSrc1, int src1Step, const Kel8u* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_16s_C1R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_16s_C3R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_16s_C4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_16s_AC4R(const Kel16s* pSrc1, int src1Step, const Kel16s* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompare_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+
+/**
+ * Compares the pixels of an image with a constant and writes a mask.
+ *
+ *     dst = src op value in every channel ? 255 : 0
+ *
+ * op is <, <=, ==, >= or >, as cmpOp says. The constant is one value for C1, and an array of
+ * one for each channel otherwise (three for C3 and AC4, four for C4). The mask has one channel
+ * of 8u; where the source has several, the relation must hold in each: in the first three for
+ * AC4, whose fourth is ignored, and in all four for C4. Of 32f a relation with a number that is
+ * none is false, == too, and zeros of both signs are equal. With any other cmpOp the function
+ * returns kelStatusOk and writes nothing. Steps are checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height.
+ */
+KELI_API KelStatus keliCompareC_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u value, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_8u_C3R(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_8u_C4R(const Kel8u* pSrc, int srcStep, const Kel8u value[4], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_8u_AC4R(const Kel8u* pSrc, int srcStep, const Kel8u value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s value, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_16s_C3R(const Kel16s* pSrc, int srcStep, const Kel16s value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_16s_C4R(const Kel16s* pSrc, int srcStep, const Kel16s value[4], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_16s_AC4R(const Kel16s* pSrc, int srcStep, const Kel16s value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f value, Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_32f_C3R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_32f_C4R(const Kel32f* pSrc, int srcStep, const Kel32f value[4], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+KELI_API KelStatus keliCompareC_32f_AC4R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, KelCmpOp cmpOp);
+
+/**
+ * Tells where two images are equal within a tolerance, and writes a mask.
+ *
+ *     dst = |src1 - src2| <= eps in every channel ? 255 : 0
+ *
+ * The mask has one channel of 8u; where the sources have several, all must be equal: the first
+ * three for AC4, whose fourth is ignored, and all four for C4. The difference is formed in
+ * single precision, and one that is not a number is not within the tolerance. Of C4 it is
+ * formed in double precision, and compared with the tolerance widened to it, wherever the
+ * address or the step of an image is not a multiple of 16 bytes: a pixel whose rounded
+ * difference is the tolerance, and whose exact one is above, then gives 0 and not 255. A
+ * tolerance of 0, or -0, asks for equality, and zeros of both signs are equal. Steps are
+ * checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadEpsilon if
+ * not eps >= 0.
+ */
+KELI_API KelStatus keliCompareEqualEps_32f_C1R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+KELI_API KelStatus keliCompareEqualEps_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+KELI_API KelStatus keliCompareEqualEps_32f_C4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+KELI_API KelStatus keliCompareEqualEps_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+
+/**
+ * Tells where an image is equal to a constant within a tolerance, and writes a mask.
+ *
+ *     dst = |src - value| <= eps in every channel ? 255 : 0
+ *
+ * The constant is one value for C1, and an array of one for each channel otherwise (three for
+ * C3 and AC4, four for C4). The mask has one channel of 8u; where the source has several, all
+ * must be equal: the first three for AC4, whose fourth is ignored, and all four for C4. The
+ * difference is formed in single precision, and one that is not a number is not within the
+ * tolerance. Of C4 it is formed in double precision, and compared with the tolerance widened to
+ * it, wherever the address or the step of an image is not a multiple of 16 bytes; where the
+ * array of constants stands does not matter. A tolerance of 0, or -0, asks for equality, and
+ * zeros of both signs are equal. Steps are checked before sizes.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadEpsilon if
+ * not eps >= 0.
+ */
+KELI_API KelStatus keliCompareEqualEpsC_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f value, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+KELI_API KelStatus keliCompareEqualEpsC_32f_C3R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+KELI_API KelStatus keliCompareEqualEpsC_32f_C4R(const Kel32f* pSrc, int srcStep, const Kel32f value[4], Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+KELI_API KelStatus keliCompareEqualEpsC_32f_AC4R(const Kel32f* pSrc, int srcStep, const Kel32f value[3], Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f eps);
+
 /* ==== Sums, means, quality index ==== */
 
 /**

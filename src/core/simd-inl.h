@@ -56,6 +56,13 @@ template <class D>
 hn::Vec<D> permuteBytes(D, hn::Vec<D> bytes, hn::Vec<D> indices);
 #endif
 
+// Whether unsigned lanes are compared in one instruction.
+#if HWY_TARGET == HWY_AVX3_DL
+constexpr bool kComparesUnsigned = true;
+#else
+constexpr bool kComparesUnsigned = false;
+#endif
+
 // Lanes of 8 and 16 bits by counts of their own. pickBits takes each byte from any bit on of the 64
 // that it belongs to, beyond the last of which stands the first.
 #if HWY_TARGET == HWY_AVX3_DL
@@ -334,6 +341,8 @@ HWY_INLINE hn::Vec<D> packSaturated([[maybe_unused]] D d, [[maybe_unused]] VW lo
   if constexpr (hn::MaxLanes(D()) * sizeof(T) == 16) {
     if constexpr (std::is_same_v<T, std::uint8_t>) {
       return hn::Vec<D>{_mm_packus_epi16(lo.raw, hi.raw)};
+    } else if constexpr (std::is_same_v<T, std::int8_t>) {
+      return hn::Vec<D>{_mm_packs_epi16(lo.raw, hi.raw)};
     } else if constexpr (std::is_same_v<T, std::uint16_t>) {
       return hn::Vec<D>{_mm_packus_epi32(lo.raw, hi.raw)};
     } else {
@@ -343,6 +352,8 @@ HWY_INLINE hn::Vec<D> packSaturated([[maybe_unused]] D d, [[maybe_unused]] VW lo
   } else if constexpr (hn::MaxLanes(D()) * sizeof(T) == 32) {
     if constexpr (std::is_same_v<T, std::uint8_t>) {
       return hn::Vec<D>{_mm256_packus_epi16(lo.raw, hi.raw)};
+    } else if constexpr (std::is_same_v<T, std::int8_t>) {
+      return hn::Vec<D>{_mm256_packs_epi16(lo.raw, hi.raw)};
     } else if constexpr (std::is_same_v<T, std::uint16_t>) {
       return hn::Vec<D>{_mm256_packus_epi32(lo.raw, hi.raw)};
     } else {
@@ -379,6 +390,25 @@ HWY_INLINE hn::Vec<D> shiftRightBy([[maybe_unused]] D d, hn::Vec<D> v, int count
   // the library would take the count from 64, of which Set has filled both halves.
   if constexpr (hn::MaxLanes(D()) == 1) return hn::ShiftRightSame(v, count);
   return v >> hn::Set(d, static_cast<hn::TFromD<D>>(count));
+#endif
+}
+
+// a > b ? a : b and a < b ? a : b, of floats with b where one is not a number or both are zeros.
+template <class V>
+HWY_INLINE V greaterElse(V a, V b) {
+#if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
+  // The processor's own maximum and minimum of floats are just these.
+  return hn::Max(a, b);
+#else
+  return hn::IfThenElse(hn::Gt(a, b), a, b);
+#endif
+}
+template <class V>
+HWY_INLINE V lessElse(V a, V b) {
+#if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
+  return hn::Min(a, b);
+#else
+  return hn::IfThenElse(hn::Lt(a, b), a, b);
 #endif
 }
 

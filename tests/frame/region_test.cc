@@ -143,6 +143,15 @@ const Function* outOfPlace(const Function& f) {
   return registry::find(name);
 }
 
+// The index of a parameter that both forms have.
+std::size_t parameter(const Function& f, const std::string& name) {
+  for (std::size_t i = 0; i < f.arguments.size; ++i) {
+    if (f.arguments[i].name == name) return i;
+  }
+  ADD_FAILURE() << f.name << " has no " << name;
+  return 0;
+}
+
 TEST(Region, InPlaceEqualsOutOfPlace) {
   std::size_t count = 0;
   forEachImageFunction([&](const Function& f) {
@@ -155,14 +164,13 @@ TEST(Region, InPlaceEqualsOutOfPlace) {
         const Geometry g = {width, 2, 5, Place::kMiddle, 1};
         TestCall inPlace(f, g, runSeed());
         TestCall separate(*plain, g, runSeed());
-        // The same parameters and sources, found by their roles; the last source of one is the
+        // The same parameters, found by their names, and sources; the last source of one is the
         // image of the other.
         for (std::size_t i = 0; i < f.arguments.size; ++i) {
           const Role role = f.arguments[i].role;
-          const std::size_t there = separate.find(role);
-          if (role == Role::kSource) separate.setSamples(there, inPlace.samples(i));
+          if (role == Role::kSource) separate.setSamples(separate.find(role), inPlace.samples(i));
           if (role != Role::kStep && !registry::isImage(role))
-            separate.values[there] = inPlace.values[i];
+            separate.values[parameter(*plain, f.arguments[i].name)] = inPlace.values[i];
         }
         const std::size_t image = inPlace.find(Role::kInOut);
         separate.setSamples(separate.written(), inPlace.samples(image));

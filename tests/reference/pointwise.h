@@ -29,6 +29,14 @@ T constantOf(const TestCall& call, std::size_t argument, int k) {
   return sample;
 }
 
+// The index of an argument that has this name.
+inline std::size_t argumentNamed(const TestCall& call, const std::string& name) {
+  std::size_t i = 0;
+  while (i < call.values.size() && call.function.arguments[i].name != name) ++i;
+  EXPECT_LT(i, call.values.size()) << call.function.name << " has no " << name;
+  return i;
+}
+
 // Fills the written image of a call from the images and constants of the same call before it is
 // run. definition(first, second, scaleFactor) gives a sample: of two sources in their order, or of
 // a source and the constant of its channel (a shift count of type Constant). definition(sample,
@@ -73,6 +81,37 @@ inline std::vector<int> scaleFactors(int vanish) {
   return all;
 }
 
+// Runs calls of f of every width on every target and compares every sample. prepare(call, i) may
+// change the samples and parameters of call number i before it is run, fill(call, size) writes what
+// is expected into the written image of a call that is not run, and expectedStatus(call, size)
+// tells what one returns. At least `calls` calls for a target.
+template <class Prepare, class Fill, class Status>
+void checkCalls(const registry::Function& f, std::size_t calls, const Prepare& prepare,
+                const Fill& fill, const Status& expectedStatus) {
+  static const std::vector<int> widths = {1,  2,  3,  5,  7,  8,  11, 15,  16,
+                                          17, 31, 33, 45, 64, 65, 97, 200, 1100};
+  for (const std::int64_t target : testedTargets()) {
+    const UseTarget use(target);
+    for (std::size_t i = 0; i < std::max(widths.size(), calls); ++i) {
+      const int width = widths[i % widths.size()];
+      const Geometry g = {width, 2, i % 3 == 0 ? 0 : 3, Place::kMiddle, static_cast<int>(i % 4)};
+      const std::uint64_t seed = runSeed() + i;
+      TestCall call(f, g, seed), expected(f, g, seed);
+      for (TestCall* c : {&call, &expected}) prepare(*c, i);
+      const KelStatus status = call.run().status;
+      ASSERT_EQ(status, expectedStatus(expected, KeliSize{width, 2})) << f.name;
+      fill(expected, KeliSize{width, 2});
+      ASSERT_EQ(call.samples(call.written()), expected.samples(expected.written()))
+          << f.name << " " << targetName(target) << " width " << width << " call " << i;
+    }
+  }
+}
+
+template <class Prepare, class Fill>
+void checkCalls(const registry::Function& f, const Prepare& prepare, const Fill& fill) {
+  checkCalls(f, 0, prepare, fill, [](const TestCall&, KeliSize) { return kelStatusOk; });
+}
+
 // Runs f with the scale factors given (one run if there are none) and compares every sample.
 // prepare(call) may change the call's samples and constants before it is run, and expectedStatus
 // (call, size) tells what it then returns.
@@ -80,28 +119,15 @@ template <class T, class Constant = T, class Definition, class Prepare, class St
 void checkMember(const registry::Function& f, const std::vector<int>& factors,
                  const Definition& definition, const Prepare& prepare,
                  const Status& expectedStatus) {
-  static const std::vector<int> widths = {1,  2,  3,  5,  7,  8,  11, 15,  16,
-                                          17, 31, 33, 45, 64, 65, 97, 200, 1100};
-  for (const std::int64_t target : testedTargets()) {
-    const UseTarget use(target);
-    for (std::size_t i = 0; i < std::max(widths.size(), factors.size()); ++i) {
-      const int width = widths[i % widths.size()];
-      const Geometry g = {width, 2, i % 3 == 0 ? 0 : 3, Place::kMiddle, static_cast<int>(i % 4)};
-      const std::uint64_t seed = runSeed() + i;
-      TestCall call(f, g, seed), expected(f, g, seed);
-      for (TestCall* c : {&call, &expected}) {
-        if (!factors.empty())
-          c->values[c->find(registry::Role::kScaleFactor)].i = factors[i % factors.size()];
-        prepare(*c);
-      }
-      const KelStatus status = call.run().status;
-      ASSERT_EQ(status, expectedStatus(expected, KeliSize{width, 2})) << f.name;
-      define<T, Constant>(expected, {width, 2}, definition);
-      ASSERT_EQ(call.samples(call.written()), expected.samples(expected.written()))
-          << f.name << " " << targetName(target) << " width " << width << " scale factor "
-          << (factors.empty() ? 0 : factors[i % factors.size()]);
-    }
-  }
+  const auto prepareCall = [&](TestCall& call, std::size_t i) {
+    if (!factors.empty())
+      call.values[call.find(registry::Role::kScaleFactor)].i = factors[i % factors.size()];
+    prepare(call);
+  };
+  checkCalls(
+      f, factors.size(), prepareCall,
+      [&](const TestCall& call, KeliSize size) { define<T, Constant>(call, size, definition); },
+      expectedStatus);
 }
 
 template <class T, class Constant = T, class Definition, class Prepare>

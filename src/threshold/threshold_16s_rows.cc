@@ -1,0 +1,25 @@
+// Row kernels of the thresholds of 16s.
+#define KELI_ENABLE_AVX512
+#include "core/simd_config.h"
+#include "core/target.h"
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "threshold/threshold_16s_rows.cc"
+#include <hwy/foreach_target.h>
+//
+#include "threshold/threshold-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace keli::HWY_NAMESPACE {
+
+constexpr threshold::ThresholdRows kThresholds16s = kThresholdRows<Kel16s>;
+
+}  // namespace keli::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace keli::threshold {
+template <>
+KELI_SELECT_ROWS(ThresholdRows, kThresholds16s, thresholdRows<Kel16s>)
+}  // namespace keli::threshold
+#endif

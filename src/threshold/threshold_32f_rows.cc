@@ -1,0 +1,25 @@
+// Row kernels of the thresholds of 32f.
+#define KELI_ENABLE_AVX512
+#include "core/simd_config.h"
+#include "core/target.h"
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "threshold/threshold_32f_rows.cc"
+#include <hwy/foreach_target.h>
+//
+#include "threshold/threshold-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace keli::HWY_NAMESPACE {
+
+constexpr threshold::ThresholdRows kThresholds32f = kThresholdRows<Kel32f>;
+
+}  // namespace keli::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace keli::threshold {
+template <>
+KELI_SELECT_ROWS(ThresholdRows, kThresholds32f, thresholdRows<Kel32f>)
+}  // namespace keli::threshold
+#endif
