@@ -1,0 +1,1 @@
+namespace keli::bench {}
