@@ -1,10 +1,11 @@
 // Kernels of MinIndx and MaxIndx: the extreme of each channel and the first place it has.
 //
 // Vectors keep the extremes of a block of rows alone. Only where a block holds a better one than
-// those before it, it is searched, in the order of rows and columns, for the first sample equal to
-// the new extreme. Blocks fit the first-level cache, so that a search reads nothing from beyond it.
-// Integers end when every channel has met the bound of its type, and read no row after that: each
-// row is tested for lanes at the bound, and one that has some ends its block.
+// those before it, its rows are searched for the first sample equal to the new extreme, beginning
+// with the first group of rows after which the extremes had it. Blocks fit the first-level cache,
+// so that a search reads nothing from beyond it. Integers end when every channel has met the bound
+// of its type, and read no row after that: each row is tested for lanes at the bound, and one that
+// has some ends its block.
 #if defined(KELI_EXTREMES_PLACES_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_EXTREMES_PLACES_INL_H_
 #undef KELI_EXTREMES_PLACES_INL_H_
@@ -95,6 +96,13 @@ struct Search {
     return hn::And(hn::LoadU(D(), block + u * kN) == values[u], lanes[u]);
   }
 
+  // Whether a block has hits.
+  HWY_INLINE bool hitsAny(const T* block) const {
+    hn::Mask<D> any = hits<0>(block);
+    if constexpr (kDistinct == 3) any = hn::Or(any, hn::Or(hits<1>(block), hits<2>(block)));
+    return !hn::AllFalse(D(), any);
+  }
+
   // Takes the hits of a block, the samples from `first` on of row y.
   void take(const T* block, std::size_t first, std::size_t y) {
     unrolled<kDistinct>([&](auto u) KELI_LAMBDA {
@@ -111,28 +119,52 @@ struct Search {
   // row: of n samples, at least a block.
   void run(const T* row, std::size_t n, std::size_t y) {
     constexpr std::size_t kBlock = kDistinct * kN;
-    for (std::size_t i = 0; i < n && wanted != 0; i += kBlock) {
-      const std::size_t first = std::min(i, n - kBlock);
-      hn::Mask<D> any = hits<0>(row + first);
-      if constexpr (kDistinct == 3)
-        any = hn::Or(any, hn::Or(hits<1>(row + first), hits<2>(row + first)));
-      if (!hn::AllFalse(D(), any)) take(row + first, first, y);
+    for (std::size_t i = 0; i < n && wanted != 0;) {
+      const Search quick = *this;  // which is not written to, and stays in registers
+      std::size_t first;
+      do {
+        first = std::min(i, n - kBlock);
+        i += kBlock;
+      } while (!quick.hitsAny(row + first) && i < n);
+      take(row + first, first, y);
     }
   }
 };
 
-// values: of a cycle.
+// What the rows of a block of rows hold, kept for groups of them.
+template <class D, std::size_t kCycle>
+struct Marks {
+  using T = hn::TFromD<D>;
+  static constexpr std::size_t kBlockBytes = 16384, kGroups = 16;
+  static constexpr std::size_t kLanes = kDistinctOf<kCycle> * hn::MaxLanes(D());
+
+  std::size_t rows;                        // of a block
+  std::size_t groupRows;                   // of a group
+  std::size_t first = 0;                   // row of the block
+  HWY_ALIGN T extremes[kGroups * kLanes];  // of the block's rows up to each group's end
+
+  explicit Marks(const Band<1>& b)
+      : rows(std::max<std::size_t>(1, kBlockBytes / sizeof(T) / b.n)),
+        groupRows((rows + kGroups - 1) / kGroups) {}
+
+  HWY_INLINE T* of(std::size_t y) { return extremes + (y - first) / groupRows * kLanes; }
+};
+
+// values: of a cycle; they are searched for in the rows from that of the marks to `last`.
 template <class D, std::size_t kCycle, class T>
-void searchRows(const Band<1>& b, std::size_t first, std::size_t last, const Channels& channels,
-                const T* values, unsigned wanted, Place<T>* places) {
+void searchRows(const Band<1>& b, Marks<D, kCycle>& marks, std::size_t last,
+                const Channels& channels, const T* values, unsigned wanted, Place<T>* places) {
   Search<D, kCycle> search{channels, wanted, places, {}, {}};
   Pixel<T, kCycle> pixel;
   std::copy(values, values + kCycle, pixel.samples);
   unrolled<kDistinctOf<kCycle>>([&](auto u)
                                     KELI_LAMBDA { search.values[u] = pixel.vector(D(), u); });
   channelLanes<D, kCycle>(channels, wanted, search.lanes);
-  for (std::size_t y = first; y <= last && search.wanted != 0; ++y)
-    search.run(b.srcRow<T>(0, y), b.n, y);
+  for (std::size_t y = marks.first; y <= last && search.wanted != 0; y += marks.groupRows) {
+    if (!search.hitsAny(marks.of(y))) continue;
+    const std::size_t end = std::min(last + 1, y + marks.groupRows);
+    for (std::size_t i = y; i < end; ++i) search.run(b.srcRow<T>(0, i), b.n, i);
+  }
 }
 
 // The extremes of a block of rows.
@@ -206,41 +238,45 @@ struct PlaceSweep {
     return any([&](auto u) KELI_LAMBDA { return Order::firstLanes(folded<u>(), before[u]); });
   }
 
-  // Writes the extremes at the places of a cycle.
-  HWY_INLINE void extremes(const Channels& channels, T* values) const {
-    HWY_ALIGN T lanes[kDistinct * kN];
+  HWY_INLINE void store(T* lanes) const {
     unrolled<kDistinct>([&](auto u) KELI_LAMBDA { hn::Store(folded<u>(), D(), lanes + u * kN); });
-    foldLanes<kCycle, kDistinct * kN>(
-        lanes, [](auto, auto v, auto w) KELI_LAMBDA { return Order::of(v, w); });
-    T best1 = lanes[0];
-    for (std::size_t k = 1; k < kCycle; ++k)
-      best1 = Order::first(lanes[k], best1) ? lanes[k] : best1;
-    for (std::size_t k = 0; k < kCycle; ++k) values[k] = channels.count == 1 ? best1 : lanes[k];
   }
 };
 
+// Writes the extremes of the lanes of a block at the places of a cycle.
+template <class Order, class D, std::size_t kCycle, class T>
+HWY_INLINE void foldChannels(const Channels& channels, const T* block, T* values) {
+  constexpr std::size_t kLanes = kDistinctOf<kCycle> * hn::MaxLanes(D());
+  HWY_ALIGN T lanes[kLanes];
+  std::memcpy(lanes, block, sizeof(lanes));
+  foldLanes<kCycle, kLanes>(lanes,
+                            [](auto, auto v, auto w) KELI_LAMBDA { return Order::of(v, w); });
+  T best = lanes[0];
+  for (std::size_t k = 1; k < kCycle; ++k) best = Order::first(lanes[k], best) ? lanes[k] : best;
+  for (std::size_t k = 0; k < kCycle; ++k) values[k] = channels.count == 1 ? best : lanes[k];
+}
+
 template <class Order, std::size_t kCycle, class D, class T>
 HWY_INLINE void placesOfVectors(D d, const Band<1>& b, const Channels& channels, Place<T>* places) {
-  constexpr std::size_t kBlockBytes = 16384;
-  const std::size_t block = std::max<std::size_t>(1, kBlockBytes / sizeof(T) / b.n);
+  Marks<D, kCycle> marks(b);
   PlaceSweep<Order, D, kCycle> sweep;
   sweep.begin(channels, places);
-  std::size_t first = 0;
   for (std::size_t y = 0; y < b.rows; ++y) {
     sweepRow(d, sweep, b.srcRow<T>(0, y), b.n);
-    const bool ends = y + 1 == b.rows || y + 1 - first == block;
+    sweep.store(marks.of(y));
+    const bool ends = y + 1 == b.rows || y + 1 - marks.first == marks.rows;
     if (!ends && (hwy::IsFloat<T>() || !sweep.meetsBound())) continue;
     if (sweep.improved()) {
       T values[kCycle];
-      sweep.extremes(channels, values);
+      foldChannels<Order, D, kCycle>(channels, marks.of(y), values);
       unsigned better = 0;
       for (std::size_t k = 0; k < channels.used; ++k)
         better |= unsigned{Order::first(values[k], places[k].value)} << k;
-      searchRows<D, kCycle>(b, first, y, channels, values, better, places);
+      searchRows(b, marks, y, channels, values, better, places);
       if (complete<Order>(channels, places)) return;
       sweep.begin(channels, places);
     }
-    first = y + 1;
+    marks.first = y + 1;
   }
 }
 
