@@ -131,7 +131,7 @@ struct Search {
   }
 };
 
-// What the rows of a block of rows hold, kept for groups of them.
+// What the rows of a block of rows hold, kept for groups of them, which are powers of two.
 template <class D, std::size_t kCycle>
 struct Marks {
   using T = hn::TFromD<D>;
@@ -139,15 +139,15 @@ struct Marks {
   static constexpr std::size_t kLanes = kDistinctOf<kCycle> * hn::MaxLanes(D());
 
   std::size_t rows;                        // of a block
-  std::size_t groupRows;                   // of a group
+  unsigned groupBits = 0;                  // of the number of rows of a group
   std::size_t first = 0;                   // row of the block
   HWY_ALIGN T extremes[kGroups * kLanes];  // of the block's rows up to each group's end
 
-  explicit Marks(const Band<1>& b)
-      : rows(std::max<std::size_t>(1, kBlockBytes / sizeof(T) / b.n)),
-        groupRows((rows + kGroups - 1) / kGroups) {}
+  explicit Marks(const Band<1>& b) : rows(std::max<std::size_t>(1, kBlockBytes / sizeof(T) / b.n)) {
+    while ((rows - 1) >> groupBits >= kGroups) ++groupBits;
+  }
 
-  HWY_INLINE T* of(std::size_t y) { return extremes + (y - first) / groupRows * kLanes; }
+  HWY_INLINE T* of(std::size_t y) { return extremes + ((y - first) >> groupBits) * kLanes; }
 };
 
 // values: of a cycle; they are searched for in the rows from that of the marks to `last`.
@@ -160,9 +160,10 @@ void searchRows(const Band<1>& b, Marks<D, kCycle>& marks, std::size_t last,
   unrolled<kDistinctOf<kCycle>>([&](auto u)
                                     KELI_LAMBDA { search.values[u] = pixel.vector(D(), u); });
   channelLanes<D, kCycle>(channels, wanted, search.lanes);
-  for (std::size_t y = marks.first; y <= last && search.wanted != 0; y += marks.groupRows) {
+  const std::size_t groupRows = std::size_t{1} << marks.groupBits;
+  for (std::size_t y = marks.first; y <= last && search.wanted != 0; y += groupRows) {
     if (!search.hitsAny(marks.of(y))) continue;
-    const std::size_t end = std::min(last + 1, y + marks.groupRows);
+    const std::size_t end = std::min(last + 1, y + groupRows);
     for (std::size_t i = y; i < end; ++i) search.run(b.srcRow<T>(0, i), b.n, i);
   }
 }
