@@ -101,6 +101,11 @@ struct CountSweep {
     const auto rest = hn::Not(hn::FirstN(Counts(), seen));
     lanes[u] = countLanes(Counts(), lanes[u], hn::And(rest, ranges[u % kDistinct].contain(d, v)));
   }
+  template <std::size_t u>
+  HWY_INLINE void addHead(D d, hn::Vec<D> v, std::size_t count) {
+    const auto head = hn::FirstN(Counts(), count);
+    lanes[u] = countLanes(Counts(), lanes[u], hn::And(head, ranges[u % kDistinct].contain(d, v)));
+  }
 
   HWY_INLINE void empty() {
     if constexpr (sizeof(T) == 1) {
@@ -145,7 +150,7 @@ struct CountSweep {
     while (n != 0) {
       // What is left is never less than a block, nor more than the lanes can count.
       const std::size_t piece = n < 2 * kPiece ? n : kPiece;
-      const std::size_t most = piece / kStep + kUnroll / kDistinct;
+      const std::size_t most = piece / kStep + kUnroll / kDistinct + 1;
       if (counted + most > kMost) empty();
       counted += most;
       sweepRow(D(), *this, src, piece);

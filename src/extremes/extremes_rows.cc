@@ -78,6 +78,10 @@ struct ExtremesSweep : Parts... {
   HWY_INLINE void addRest(D, hn::Vec<D> v, std::size_t) {
     (Parts::template take<u>(v), ...);
   }
+  template <std::size_t u, class D>
+  HWY_INLINE void addHead(D, hn::Vec<D> v, std::size_t) {
+    (Parts::template take<u>(v), ...);
+  }
   template <class T>
   HWY_INLINE void finish(T* minima, T* maxima) {
     (Parts::finish(minima, maxima), ...);

@@ -195,6 +195,10 @@ struct PlaceSweep {
   HWY_INLINE void addRest(D d, hn::Vec<D> v, std::size_t) {
     add<u>(d, v);
   }
+  template <std::size_t u>
+  HWY_INLINE void addHead(D d, hn::Vec<D> v, std::size_t) {
+    add<u>(d, v);
+  }
 
   // No sample is better than the bound, which stands for channels that are not used.
   HWY_INLINE void begin(const Channels& channels, const Place<T>* places) {
