@@ -57,7 +57,7 @@ constexpr std::size_t kAccumulators = hwy::IsFloat<T>() ? kUnroll : kUnroll / 2;
 template <std::size_t kDistinct, class D>
 HWY_INLINE std::size_t lineAfter(D, const hn::TFromD<D>* src, std::size_t n) {
   using T = hn::TFromD<D>;
-  constexpr std::size_t kUnit = kDistinct == 3 ? 3 : 4, kLong = 1024 / sizeof(T);
+  constexpr std::size_t kUnit = kDistinct == 3 ? 3 : 4, kLong = 512 / sizeof(T);
   if (hn::MaxLanes(D()) * sizeof(T) != 64 || n < kLong) return 0;
   const std::size_t units = unitsToLine(src, kUnit * sizeof(T), n);
   return units == n ? 0 : units * kUnit;
