@@ -2317,6 +2317,163 @@ KELI_API KelStatus keliQualityIndex_32f_C1R(const Kel32f* pSrc1, int src1Step, c
 KELI_API KelStatus keliQualityIndex_32f_C3R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel32f pQualityIndex[3]);
 KELI_API KelStatus keliQualityIndex_32f_AC4R(const Kel32f* pSrc1, int src1Step, const Kel32f* pSrc2, int src2Step, KeliSize roiSize, Kel32f pQualityIndex[3]);
 
+/* ==== Minima, maxima, their places, and counts of samples in a range ==== */
+
+/**
+ * Finds the smallest sample of every channel.
+ *
+ *     pMin[k] = min of src(x, y)[k] over the region
+ *
+ * One value for C1, one for each channel otherwise; AC4 has no value for the fourth channel.
+ * 32f: NaNs are passed over, and a channel of NaNs alone gives the NaN with the bits
+ * 0x7FC00000; a smallest value of zero is +0 whatever the signs of the zeros, so that the
+ * result does not depend on the order of the samples.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMin_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u* pMin);
+KELI_API KelStatus keliMin_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMin[3]);
+KELI_API KelStatus keliMin_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMin[3]);
+KELI_API KelStatus keliMin_8u_C4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMin[4]);
+KELI_API KelStatus keliMin_16s_C1R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s* pMin);
+KELI_API KelStatus keliMin_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMin[3]);
+KELI_API KelStatus keliMin_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMin[3]);
+KELI_API KelStatus keliMin_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMin[4]);
+KELI_API KelStatus keliMin_32f_C1R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f* pMin);
+KELI_API KelStatus keliMin_32f_C3R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMin[3]);
+KELI_API KelStatus keliMin_32f_AC4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMin[3]);
+KELI_API KelStatus keliMin_32f_C4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMin[4]);
+
+/**
+ * Finds the largest sample of every channel.
+ *
+ *     pMax[k] = max of src(x, y)[k] over the region
+ *
+ * One value for C1, one for each channel otherwise; AC4 has no value for the fourth channel.
+ * 32f: NaNs are passed over, and a channel of NaNs alone gives the NaN with the bits
+ * 0x7FC00000; a largest value of zero is +0 whatever the signs of the zeros, so that the result
+ * does not depend on the order of the samples.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMax_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u* pMax);
+KELI_API KelStatus keliMax_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMax[3]);
+KELI_API KelStatus keliMax_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMax[3]);
+KELI_API KelStatus keliMax_8u_C4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMax[4]);
+KELI_API KelStatus keliMax_16s_C1R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s* pMax);
+KELI_API KelStatus keliMax_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMax[3]);
+KELI_API KelStatus keliMax_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMax[3]);
+KELI_API KelStatus keliMax_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMax[4]);
+KELI_API KelStatus keliMax_32f_C1R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f* pMax);
+KELI_API KelStatus keliMax_32f_C3R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMax[3]);
+KELI_API KelStatus keliMax_32f_AC4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMax[3]);
+KELI_API KelStatus keliMax_32f_C4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMax[4]);
+
+/**
+ * Finds the smallest and the largest sample of every channel in one pass.
+ *
+ *     pMin[k] = min of src(x, y)[k], pMax[k] = max of src(x, y)[k] over the region
+ *
+ * The results of the functions Min and Max: one value each for C1, one for each channel
+ * otherwise; AC4 has none for the fourth channel. 32f: NaNs are passed over, and a channel of
+ * NaNs alone gives the NaN with the bits 0x7FC00000 twice; a result of zero is +0.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMinMax_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u* pMin, Kel8u* pMax);
+KELI_API KelStatus keliMinMax_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMin[3], Kel8u pMax[3]);
+KELI_API KelStatus keliMinMax_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMin[3], Kel8u pMax[3]);
+KELI_API KelStatus keliMinMax_8u_C4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMin[4], Kel8u pMax[4]);
+KELI_API KelStatus keliMinMax_16s_C1R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s* pMin, Kel16s* pMax);
+KELI_API KelStatus keliMinMax_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMin[3], Kel16s pMax[3]);
+KELI_API KelStatus keliMinMax_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMin[3], Kel16s pMax[3]);
+KELI_API KelStatus keliMinMax_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMin[4], Kel16s pMax[4]);
+KELI_API KelStatus keliMinMax_32f_C1R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f* pMin, Kel32f* pMax);
+KELI_API KelStatus keliMinMax_32f_C3R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMin[3], Kel32f pMax[3]);
+KELI_API KelStatus keliMinMax_32f_AC4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMin[3], Kel32f pMax[3]);
+KELI_API KelStatus keliMinMax_32f_C4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMin[4], Kel32f pMax[4]);
+
+/**
+ * Finds the smallest sample of every channel and where it first occurs.
+ *
+ *     pMin[k] = src(pIndexX[k], pIndexY[k])[k] = min of src(x, y)[k]
+ *
+ * Column and row are counted from the first pixel of the region. Of equal samples the first
+ * counts, in the order of rows and of columns within a row. One value, column and row for C1,
+ * one for each channel otherwise; AC4 has none for the fourth channel. The value is the sample
+ * found, with its own bits. 32f: a sample replaces the one at column 0 and row 0 if it is below
+ * it; so a NaN is found if it is that very sample, and all others are passed over. 8u and 16s:
+ * rows after the one in which the last of the channels reaches the least value of the type are
+ * not read.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMinIndx_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u* pMin, int* pIndexX, int* pIndexY);
+KELI_API KelStatus keliMinIndx_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMin[3], int pIndexX[3], int pIndexY[3]);
+KELI_API KelStatus keliMinIndx_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMin[3], int pIndexX[3], int pIndexY[3]);
+KELI_API KelStatus keliMinIndx_8u_C4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMin[4], int pIndexX[4], int pIndexY[4]);
+KELI_API KelStatus keliMinIndx_16s_C1R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s* pMin, int* pIndexX, int* pIndexY);
+KELI_API KelStatus keliMinIndx_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMin[3], int pIndexX[3], int pIndexY[3]);
+KELI_API KelStatus keliMinIndx_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMin[3], int pIndexX[3], int pIndexY[3]);
+KELI_API KelStatus keliMinIndx_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMin[4], int pIndexX[4], int pIndexY[4]);
+KELI_API KelStatus keliMinIndx_32f_C1R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f* pMin, int* pIndexX, int* pIndexY);
+KELI_API KelStatus keliMinIndx_32f_C3R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMin[3], int pIndexX[3], int pIndexY[3]);
+KELI_API KelStatus keliMinIndx_32f_AC4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMin[3], int pIndexX[3], int pIndexY[3]);
+KELI_API KelStatus keliMinIndx_32f_C4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMin[4], int pIndexX[4], int pIndexY[4]);
+
+/**
+ * Finds the largest sample of every channel and where it first occurs.
+ *
+ *     pMax[k] = src(pIndexX[k], pIndexY[k])[k] = max of src(x, y)[k]
+ *
+ * Column and row are counted from the first pixel of the region. Of equal samples the first
+ * counts, in the order of rows and of columns within a row. One value, column and row for C1,
+ * one for each channel otherwise; AC4 has none for the fourth channel. The value is the sample
+ * found, with its own bits. 32f: a sample replaces the one at column 0 and row 0 if it is above
+ * it; so a NaN is found if it is that very sample, and all others are passed over. 8u and 16s:
+ * rows after the one in which the last of the channels reaches the greatest value of the type
+ * are not read.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliMaxIndx_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u* pMax, int* pIndexX, int* pIndexY);
+KELI_API KelStatus keliMaxIndx_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMax[3], int pIndexX[3], int pIndexY[3]);
+KELI_API KelStatus keliMaxIndx_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMax[3], int pIndexX[3], int pIndexY[3]);
+KELI_API KelStatus keliMaxIndx_8u_C4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, Kel8u pMax[4], int pIndexX[4], int pIndexY[4]);
+KELI_API KelStatus keliMaxIndx_16s_C1R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s* pMax, int* pIndexX, int* pIndexY);
+KELI_API KelStatus keliMaxIndx_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMax[3], int pIndexX[3], int pIndexY[3]);
+KELI_API KelStatus keliMaxIndx_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMax[3], int pIndexX[3], int pIndexY[3]);
+KELI_API KelStatus keliMaxIndx_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, Kel16s pMax[4], int pIndexX[4], int pIndexY[4]);
+KELI_API KelStatus keliMaxIndx_32f_C1R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f* pMax, int* pIndexX, int* pIndexY);
+KELI_API KelStatus keliMaxIndx_32f_C3R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMax[3], int pIndexX[3], int pIndexY[3]);
+KELI_API KelStatus keliMaxIndx_32f_AC4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMax[3], int pIndexX[3], int pIndexY[3]);
+KELI_API KelStatus keliMaxIndx_32f_C4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, Kel32f pMax[4], int pIndexX[4], int pIndexY[4]);
+
+/**
+ * Counts the samples of every channel that lie in a range.
+ *
+ *     counts[k] = number of (x, y) with lowerBound[k] <= src(x, y)[k] <= upperBound[k]
+ *
+ * Both ends belong to the range. One count for C1, one for each channel otherwise; AC4 has none
+ * for the fourth channel. Counts are written, not added to what was there, and stop at
+ * 2147483647. 32f: a NaN never counts, and where an end of the range is a NaN nothing does.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadRange if
+ * lowerBound > upperBound in any channel.
+ */
+KELI_API KelStatus keliCountInRange_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, int* counts, Kel8u lowerBound, Kel8u upperBound);
+KELI_API KelStatus keliCountInRange_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, int counts[3], const Kel8u lowerBound[3], const Kel8u upperBound[3]);
+KELI_API KelStatus keliCountInRange_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize roiSize, int counts[3], const Kel8u lowerBound[3], const Kel8u upperBound[3]);
+KELI_API KelStatus keliCountInRange_32f_C1R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, int* counts, Kel32f lowerBound, Kel32f upperBound);
+KELI_API KelStatus keliCountInRange_32f_C3R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, int counts[3], const Kel32f lowerBound[3], const Kel32f upperBound[3]);
+KELI_API KelStatus keliCountInRange_32f_AC4R(const Kel32f* pSrc, int srcStep, KeliSize roiSize, int counts[3], const Kel32f lowerBound[3], const Kel32f upperBound[3]);
+
 /* ==== Norms ==== */
 
 /**

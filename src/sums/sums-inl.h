@@ -265,7 +265,7 @@ using SinkOf = std::conditional_t<
 template <class D>
 HWY_INLINE void sortThree(D d, hn::Vec<D> (&v)[3]) {
   constexpr std::size_t kN = hn::MaxLanes(D());
-  for (hn::Vec<D>& u : v) keepInRegister(u);
+  for (hn::Vec<D>& u : v) keepLoaded(u);
   const hn::Vec<D> a = v[0], b = v[1], c = v[2];
   unrolled<3>([&](auto k) KELI_LAMBDA {
     // Lanes j with (j + at) % 3 == k.
