@@ -61,22 +61,11 @@ const Case kCases[] = {
      [](Buffers& b, std::size_t n) { driverRows().addC8uC3(one(b, n), kTable); }},
     {"constants 32f C3",
      [](Buffers& b, std::size_t n) { driverRows().addC32fC3(one(b, n), kFloats); }},
-    {"reduce 8u",
-     [](Buffers& b, std::size_t n) {
-       std::uint64_t sums[3];
-       benchmark::DoNotOptimize(driverRows().sum8uC1(one(b, n), sums));
-     }},
-    {"reduce 8u C3",
-     [](Buffers& b, std::size_t n) {
-       std::uint64_t sums[3];
-       benchmark::DoNotOptimize(driverRows().sum8uC3(one(b, n), sums));
-     }},
     {"pixels 8u C3", [](Buffers& b, std::size_t n) { driverRows().rotateC3(planes(b, n)); }},
     {"pixels 8u C3 to P3",
      [](Buffers& b, std::size_t n) { driverRows().rotateC3P3(planes(b, n)); }},
     {"pixels 8u P3 to AC4",
      [](Buffers& b, std::size_t n) { driverRows().rotateP3AC4(planes(b, n)); }},
-    {"look-up 8u", [](Buffers& b, std::size_t n) { driverRows().lookup8u(one(b, n), kTable); }},
 };
 
 void measure(benchmark::State& state, const Case& c) {

@@ -114,4 +114,36 @@ panel "right by 2: a quarter" keliRShiftC_8u_C3R coffee.png --value 2,2,2
 panel "left by 2: the lower bits" keliLShiftC_8u_C3R coffee.png --value 2,2,2
 endSheet
 
+photograph camera.png
+photograph chelsea.png
+photograph coffee.png
+panel "darker than 90: black" keliThreshold_LTVal_8u_C1R camera.png --threshold 90 --value 0
+panel "clamped at 150" keliThreshold_GT_8u_C3R chelsea.png --threshold 150,150,150
+panel "clamped at 90 from below" keliThreshold_LT_8u_C3R chelsea.png --threshold 90,90,90
+panel "brighter than 128: a colour" keliThreshold_GTVal_8u_C3R coffee.png \
+  --threshold 128,128,128 --value 250,190,40
+panel "below 70: 0, above 180: 255" keliThreshold_LTValGTVal_8u_C1R camera.png \
+  --thresholdLT 70 --valueLT 0 --thresholdGT 180 --valueGT 255
+panel "mask: above 120" keliCompareC_8u_C1R camera.png --value 120 --cmpOp greater
+panel "mask: all channels above 100" keliCompareC_8u_C3R coffee.png \
+  --value 100,100,100 --cmpOp greater
+panel "mask: all channels darker than the cat's" keliCompare_8u_C3R coffee.png chelsea.png \
+  --cmpOp less
+panel "mask: within 20 of 150" keliCompareEqualEpsC_32f_C1R camera.png --value 150 --eps 20
+panel "histogram, 256 bins a channel" keliHistogramEven_8u_C3R chelsea.png \
+  --nLevels 257 --lowerLevel 0 --upperLevel 256
+panel "histogram, 32 bins" keliHistogramEven_8u_C1R camera.png \
+  --nLevels 33 --lowerLevel 0 --upperLevel 256
+endSheet
+
+# Numbers of pictures are printed.
+for call in "keliMean_8u_C3R chelsea.png" "keliMinMax_8u_C1R camera.png" \
+    "keliMaxIndx_8u_C1R camera.png" "keliNormRel_L2_8u_C3R coffee.png chelsea.png" \
+    "keliQualityIndex_8u32f_C1R camera.png disc.png" \
+    "keliCountInRange_8u_C1R camera.png --lowerBound 0 --upperBound 60"; do
+  printf 'keli run %s\n' "$call"
+  # shellcheck disable=SC2086
+  "$keli" run $call | sed 's/^/    /'
+done
+
 convert -background white "${sheets[@]}" -append "$sheet"

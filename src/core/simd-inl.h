@@ -199,21 +199,22 @@ HWY_INLINE hn::Vec<D> loadFirst(D d, const hn::TFromD<D>* p, std::size_t count) 
 #endif
 }
 
-// v where it is below (above) best, else best: a NaN on either side leaves best.
+// a > b ? a : b and a < b ? a : b, of floats with b where one is not a number or both are zeros.
 template <class V>
-HWY_INLINE V lesser(V v, V best) {
-#if HWY_ARCH_X86
-  return hn::Min(v, best);  // the instruction gives its second operand unless the first is below
+HWY_INLINE V greaterElse(V a, V b) {
+#if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
+  // The processor's own maximum and minimum of floats are just these.
+  return hn::Max(a, b);
 #else
-  return hn::IfThenElse(hn::Lt(v, best), v, best);
+  return hn::IfThenElse(hn::Gt(a, b), a, b);
 #endif
 }
 template <class V>
-HWY_INLINE V greater(V v, V best) {
-#if HWY_ARCH_X86
-  return hn::Max(v, best);
+HWY_INLINE V lessElse(V a, V b) {
+#if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
+  return hn::Min(a, b);
 #else
-  return hn::IfThenElse(hn::Gt(v, best), v, best);
+  return hn::IfThenElse(hn::Lt(a, b), a, b);
 #endif
 }
 
@@ -429,25 +430,6 @@ HWY_INLINE hn::Vec<D> shiftRightBy([[maybe_unused]] D d, hn::Vec<D> v, int count
   // the library would take the count from 64, of which Set has filled both halves.
   if constexpr (hn::MaxLanes(D()) == 1) return hn::ShiftRightSame(v, count);
   return v >> hn::Set(d, static_cast<hn::TFromD<D>>(count));
-#endif
-}
-
-// a > b ? a : b and a < b ? a : b, of floats with b where one is not a number or both are zeros.
-template <class V>
-HWY_INLINE V greaterElse(V a, V b) {
-#if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
-  // The processor's own maximum and minimum of floats are just these.
-  return hn::Max(a, b);
-#else
-  return hn::IfThenElse(hn::Gt(a, b), a, b);
-#endif
-}
-template <class V>
-HWY_INLINE V lessElse(V a, V b) {
-#if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
-  return hn::Min(a, b);
-#else
-  return hn::IfThenElse(hn::Lt(a, b), a, b);
 #endif
 }
 

@@ -35,7 +35,7 @@ struct Order<extremes::Min, T> {
   }
   template <class V>
   static HWY_INLINE V of(V v, V best) {
-    return lesser(v, best);
+    return lessElse(v, best);
   }
 };
 
@@ -55,7 +55,7 @@ struct Order<extremes::Max, T> {
   }
   template <class V>
   static HWY_INLINE V of(V v, V best) {
-    return greater(v, best);
+    return greaterElse(v, best);
   }
 };
 

@@ -8,10 +8,8 @@
 #define HWY_TARGET_INCLUDE "drivers/driver_rows.cc"
 #include <hwy/foreach_target.h>
 //
-#include "core/lookup-inl.h"
 #include "core/map-inl.h"
 #include "core/pixels-inl.h"
-#include "core/reduce-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
@@ -113,58 +111,6 @@ struct AddC {
   T scalar(std::size_t phase, T a) const { return saturatedSum(a, constants[phase]); }
 };
 
-// Sums of bytes in 64 bits, one for each channel. Vectors of three channels are masked by channel.
-template <std::size_t kChannels>
-struct ByteSum {
-  static constexpr std::size_t kPeriod = kChannels;
-  static constexpr std::size_t kUnroll = 3;
-  std::uint64_t single[kChannels] = {};
-#if HWY_TARGET != HWY_SCALAR
-  using Tag64 = hn::ScalableTag<std::uint64_t>;
-  hn::Vec<Tag64> sums[kChannels];
-  ByteSum() {
-    for (auto& s : sums) s = hn::Zero(Tag64());
-  }
-  template <std::size_t u, class D, class V>
-  HWY_INLINE void add(D d, V a) {
-    for (std::size_t k = 0; k < kChannels; ++k) {
-      // Channel k stands where (lane + start of the vector - k) is a multiple of the cycle.
-      const std::size_t phase = (u * hn::MaxLanes(D()) + kChannels - k) % kChannels;
-      const V part = kChannels == 1 ? a : hn::IfThenElseZero(cycleMask<kChannels, 1>(d, phase), a);
-      sums[k] = hn::Add(sums[k], hn::SumsOf8(part));
-    }
-  }
-#endif
-  hn::ScalableTag<std::uint8_t> tag() const { return {}; }
-  template <class T>
-  T neutral(std::size_t) const {
-    return 0;
-  }
-  void scalar(std::size_t phase, std::uint8_t a) { single[phase] += a; }
-  std::uint64_t total(std::size_t k) const {
-    std::uint64_t t = single[k];
-#if HWY_TARGET != HWY_SCALAR
-    HWY_ALIGN std::uint64_t lanes[hn::MaxLanes(Tag64())];
-    hn::Store(sums[k], Tag64(), lanes);
-    for (const std::uint64_t lane : lanes) t += lane;
-#endif
-    return t;
-  }
-};
-
-// Sum of |a - b|, over the sums of bytes.
-struct DifferenceSum : ByteSum<1> {
-#if HWY_TARGET != HWY_SCALAR
-  template <std::size_t u, class D, class V>
-  HWY_INLINE void add(D d, V a, V b) {
-    ByteSum<1>::add<u>(d, hn::Or(hn::SaturatedSub(a, b), hn::SaturatedSub(b, a)));
-  }
-#endif
-  void scalar(std::size_t phase, std::uint8_t a, std::uint8_t b) {
-    ByteSum<1>::scalar(phase, static_cast<std::uint8_t>(a > b ? a - b : b - a));
-  }
-};
-
 struct Rotate {
   template <class D, class In>
   HWY_INLINE In vector(D, const In& in) const {
@@ -201,28 +147,9 @@ void ownAddC(const Band<1>& b, const void* constants) {
   mapRows<T, T>(b, AddC<T, kChannels>{static_cast<const T*>(constants)});
 }
 
-template <std::size_t kChannels>
-std::uint64_t ownReduce(const Band<1>& b, std::uint64_t* perChannel) {
-  ByteSum<kChannels> sum;
-  reduceRows<std::uint8_t>(b, sum);
-  for (std::size_t k = 0; k < kChannels; ++k) perChannel[k] = sum.total(k);
-  return perChannel[0];
-}
-
-std::uint64_t ownSumDifferences(const Band<2>& b) {
-  DifferenceSum sum;
-  reduceRows<std::uint8_t, std::uint8_t>(b, sum);
-  return sum.total(0);
-}
-
 template <Layout kFrom, Layout kTo, class T, class Op>
 void ownPixels(const PlanesBand& b) {
   mapPixels<kFrom, kTo, T, T>(b, Op());
-}
-
-template <class TD, class Keep>
-void ownLookup(const Band<1>& b, const void* table) {
-  lookupRows<TD, Keep>(b, static_cast<const TD*>(table));
 }
 
 const test::DriverRows kDriverRows = {
@@ -239,17 +166,11 @@ const test::DriverRows kDriverRows = {
     ownAddC<std::uint8_t, 3>,
     ownAddC<std::int16_t, 4>,
     ownAddC<float, 3>,
-    ownReduce<1>,
-    ownReduce<3>,
-    ownSumDifferences,
     ownPixels<Layout::C3, Layout::C3, std::uint8_t, Rotate>,
     ownPixels<Layout::C3, Layout::P3, std::uint8_t, Rotate>,
     ownPixels<Layout::P3, Layout::AC4, std::uint8_t, Rotate>,
     ownPixels<Layout::AC4, Layout::C3, std::uint16_t, Rotate>,
     ownPixels<Layout::C3, Layout::C1, float, Gray>,
-    ownLookup<std::uint8_t, KeepNone>,
-    ownLookup<std::uint8_t, KeepOthers<4, 3>>,
-    ownLookup<float, KeepNone>,
 };
 
 }  // namespace keli::HWY_NAMESPACE

@@ -12,9 +12,7 @@ struct DriverRows {
   using Map1 = void (*)(const Band<1>&);
   using Map2 = void (*)(const Band<2>&);
   using MapC = void (*)(const Band<1>&, const void* constants);
-  using Reduce1 = std::uint64_t (*)(const Band<1>&, std::uint64_t* perChannel);
   using Planes = void (*)(const PlanesBand&);
-  using Lookup = void (*)(const Band<1>&, const void* table);
 
   Map1 invert8u;      // 255 - a
   Map1 invert8uAC4;   // the same, fourth samples kept
@@ -29,17 +27,11 @@ struct DriverRows {
   MapC addC8uC3;
   MapC addC16sC4;
   MapC addC32fC3;
-  Reduce1 sum8uC1;
-  Reduce1 sum8uC3;  // three sums
-  std::uint64_t (*sumDifferences8u)(const Band<2>&);
   Planes rotateC3;  // channels 1, 2, 0
   Planes rotateC3P3;
   Planes rotateP3AC4;
   Planes rotateAC4C3_16u;
   Planes grayC3C1_32f;  // the sum of the channels
-  Lookup lookup8u;
-  Lookup lookup8uAC4;
-  Lookup lookup8u32f;
 };
 
 const DriverRows& driverRows();

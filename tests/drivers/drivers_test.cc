@@ -185,30 +185,6 @@ TEST(Drivers, MapOfConstants) {
   checkMapC<Kel32f>(&DriverRows::addC32fC3, 3, -100000, 100000);
 }
 
-TEST(Drivers, Reduce) {
-  forEachTargetLengthPlace([&](std::size_t length, std::size_t place) {
-    const std::size_t n = 3 * length;
-    Rows a(n, place, runSeed()), b(n, place, runSeed() + 1);
-    std::uint64_t all = 0, differences = 0, channels[3] = {};
-    for (std::size_t y = 0; y < 2; ++y) {
-      for (std::size_t i = 0; i < n; ++i) {
-        const int p = a.get<Kel8u>(y, i), q = b.get<Kel8u>(y, i);
-        all += static_cast<std::uint64_t>(p);
-        channels[i % 3] += static_cast<std::uint64_t>(p);
-        differences += static_cast<std::uint64_t>(std::abs(p - q));
-      }
-    }
-    std::uint64_t sums[3];
-    const Band<1> band = makeBand(a.data(), a.step(), nullptr, 0, n, 2);
-    ASSERT_EQ(driverRows().sum8uC1(band, sums), all);
-    driverRows().sum8uC3(band, sums);
-    for (int k = 0; k < 3; ++k) ASSERT_EQ(sums[k], channels[k]) << "channel " << k;
-    ASSERT_EQ(driverRows().sumDifferences8u(
-                  makeBand(a.data(), a.step(), b.data(), b.step(), nullptr, 0, n, 2)),
-              differences);
-  });
-}
-
 // Channels 1, 2, 0 of the source in 0, 1, 2 of the destination; a fourth is kept.
 template <class T, Layout kFrom, Layout kTo>
 void checkRotate(DriverRows::Planes DriverRows::*kernel) {
@@ -258,32 +234,6 @@ TEST(Drivers, PixelsOfThreeAndFourChannels) {
       ASSERT_EQ(dst.get<Kel32f>(1, x), src.get<Kel32f>(1, 3 * x) + src.get<Kel32f>(1, 3 * x + 1) +
                                            src.get<Kel32f>(1, 3 * x + 2));
     }
-  });
-}
-
-TEST(Drivers, LookUp) {
-  Kel8u table[256];
-  Kel32f floats[256];
-  for (int i = 0; i < 256; ++i) {
-    table[i] = static_cast<Kel8u>(i * 7 + 3);
-    floats[i] = static_cast<Kel32f>(i) / 3;
-  }
-  forEachTargetLengthPlace([&](std::size_t length, std::size_t place) {
-    const std::size_t n = 4 * length;
-    Rows src(n, place, runSeed()), dst(n, place, 2), wide(4 * n, place, 3);
-    const auto band = [&](const Rows& to) {
-      return makeBand(src.data(), src.step(), to.data(), to.step(), n, 2);
-    };
-    driverRows().lookup8u32f(band(wide), floats);
-    driverRows().lookup8uAC4(band(dst), table);
-    for (std::size_t i = 0; i < n; ++i) {
-      ASSERT_EQ(wide.get<Kel32f>(1, i), floats[src.get<Kel8u>(1, i)]);
-      ASSERT_EQ(dst.get<Kel8u>(1, i),
-                i % 4 == 3 ? dst.was<Kel8u>(1, i) : table[src.get<Kel8u>(1, i)]);
-    }
-    driverRows().lookup8u(band(src), table);
-    for (std::size_t i = 0; i < n; ++i)
-      ASSERT_EQ(src.get<Kel8u>(0, i), table[src.was<Kel8u>(0, i)]) << "in place";
   });
 }
 
