@@ -2230,7 +2230,7 @@ KELI_API KelStatus keliSum_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roi
  *
  * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
  * into one accumulator and those of odd columns into another, row after row, and adds the two
- * at the end. Every other hint sums in single precision, in 96 partial sums of fixed places
+ * at the end. Every other hint sums in single precision, in 48 partial sums of fixed places
  * that are emptied into double precision; the result is the same for every step, processor and
  * number of threads, and may differ from the accurate one in the last digits of single
  * precision. A NaN among the samples makes the result NaN. One value for C1, an array of one
@@ -2275,7 +2275,7 @@ KELI_API KelStatus keliMean_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize ro
  * number's reciprocal, so the last digit may differ. hint kelAlgHintAccurate sums in double
  * precision: of each channel, samples of even columns into one accumulator and those of odd
  * columns into another, row after row, and adds the two at the end. Every other hint sums in
- * single precision, in 96 partial sums of fixed places that are emptied into double precision;
+ * single precision, in 48 partial sums of fixed places that are emptied into double precision;
  * the result is the same for every step, processor and number of threads, and may differ from
  * the accurate one in the last digits of single precision. A NaN among the samples makes the
  * result NaN. One value for C1, an array of one for each channel otherwise: three for C3 and
@@ -2530,7 +2530,7 @@ KELI_API KelStatus keliNorm_L1_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize
  *
  * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
  * into one accumulator and those of odd columns into another, row after row, and adds the two
- * at the end. Every other hint sums in single precision, in 96 partial sums of fixed places
+ * at the end. Every other hint sums in single precision, in 48 partial sums of fixed places
  * that are emptied into double precision; the result is the same for every step, processor and
  * number of threads, and may differ from the accurate one in the last digits of single
  * precision. A NaN among the samples makes the result NaN. One value for C1, an array of one
@@ -2573,7 +2573,7 @@ KELI_API KelStatus keliNorm_L2_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize
  *
  * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
  * into one accumulator and those of odd columns into another, row after row, and adds the two
- * at the end. Every other hint sums in single precision, in 96 partial sums of fixed places
+ * at the end. Every other hint sums in single precision, in 48 partial sums of fixed places
  * that are emptied into double precision; the result is the same for every step, processor and
  * number of threads, and may differ from the accurate one in the last digits of single
  * precision. A NaN among the samples makes the result NaN. One value for C1, an array of one
@@ -2641,7 +2641,7 @@ KELI_API KelStatus keliNormDiff_L1_16s_C4R(const Kel16s* pSrc1, int src1Step, co
  *
  * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
  * into one accumulator and those of odd columns into another, row after row, and adds the two
- * at the end. Every other hint sums in single precision, in 96 partial sums of fixed places
+ * at the end. Every other hint sums in single precision, in 48 partial sums of fixed places
  * that are emptied into double precision; the result is the same for every step, processor and
  * number of threads, and may differ from the accurate one in the last digits of single
  * precision. Differences are formed in the precision of the sums. A NaN among the samples makes
@@ -2684,7 +2684,7 @@ KELI_API KelStatus keliNormDiff_L2_16s_C4R(const Kel16s* pSrc1, int src1Step, co
  *
  * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
  * into one accumulator and those of odd columns into another, row after row, and adds the two
- * at the end. Every other hint sums in single precision, in 96 partial sums of fixed places
+ * at the end. Every other hint sums in single precision, in 48 partial sums of fixed places
  * that are emptied into double precision; the result is the same for every step, processor and
  * number of threads, and may differ from the accurate one in the last digits of single
  * precision. Differences are formed in the precision of the sums. A NaN among the samples makes
@@ -2760,7 +2760,7 @@ KELI_API KelStatus keliNormRel_L1_16s_C4R(const Kel16s* pSrc1, int src1Step, con
  *
  * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
  * into one accumulator and those of odd columns into another, row after row, and adds the two
- * at the end. Every other hint sums in single precision, in 96 partial sums of fixed places
+ * at the end. Every other hint sums in single precision, in 48 partial sums of fixed places
  * that are emptied into double precision; the result is the same for every step, processor and
  * number of threads, and may differ from the accurate one in the last digits of single
  * precision. Differences are formed in the precision of the sums. A NaN among the samples makes
@@ -2811,7 +2811,7 @@ KELI_API KelStatus keliNormRel_L2_16s_C4R(const Kel16s* pSrc1, int src1Step, con
  *
  * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
  * into one accumulator and those of odd columns into another, row after row, and adds the two
- * at the end. Every other hint sums in single precision, in 96 partial sums of fixed places
+ * at the end. Every other hint sums in single precision, in 48 partial sums of fixed places
  * that are emptied into double precision; the result is the same for every step, processor and
  * number of threads, and may differ from the accurate one in the last digits of single
  * precision. Differences are formed in the precision of the sums. A NaN among the samples makes

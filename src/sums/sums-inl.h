@@ -228,7 +228,14 @@ struct TakeLargest {
   HWY_INLINE void merge(const TakeLargest& other) { largest = hn::Max(largest, other.largest); }
   template <class F>
   HWY_INLINE void each(std::size_t, const F& f) const {
-    eachLane(D(), largest, f);
+    // Lanes 16 bytes apart are of the same channel.
+    const hn::CappedTag<hn::TFromD<D>, 16 / sizeof(hn::TFromD<D>)> d;
+    HWY_ALIGN hn::TFromD<D> lanes[hn::MaxLanes(D())];
+    hn::Store(largest, D(), lanes);
+    auto v = hn::Load(d, lanes);
+    for (std::size_t j = hn::MaxLanes(d); j < hn::MaxLanes(D()); j += hn::MaxLanes(d))
+      v = hn::Max(v, hn::Load(d, lanes + j));
+    eachLane(d, v, f);
   }
 };
 
@@ -303,32 +310,35 @@ struct TermSinks {
   HWY_INLINE TermSinks() {}
 
   // src: kVectors vectors of each source.
-  template <class... Sources>
-  HWY_INLINE void add(std::size_t u, const Sources&... src) {
+  template <std::size_t kU, class... Sources>
+  HWY_INLINE void add(const Sources&... src) {
     hn::Vec<DV> v[kVectors];
     unrolled<kVectors>([&](auto k) KELI_LAMBDA { v[k] = Term::vector(D(), src[k]...); });
     if constexpr (Sink::kSorts && kChannels == 3) sortThree(DV(), v);
     if constexpr (Sink::kSorts && kChannels == 4) v[0] = sortFour(DV(), v[0]);
-    unrolled<kVectors>([&](auto k) KELI_LAMBDA { sinks[u][k].add(DV(), v[k]); });
+    unrolled<kVectors>([&](auto k) KELI_LAMBDA { sinks[kU][k].add(DV(), v[k]); });
   }
 
   // taken: vectors of each of the kVectors.
   HWY_INLINE void drain(std::size_t taken, sums::Totals& totals) {
-    for (std::size_t u = 1; u < kUnroll; ++u) {
-      for (std::size_t k = 0; k < kVectors; ++k) sinks[0][k].merge(sinks[u][k]);
+    // Loops over sinks are unrolled so that the compiler keeps them in registers.
+    unrolled<kUnroll - 1>([&](auto u) KELI_LAMBDA {
+      unrolled<kVectors>([&](auto k) KELI_LAMBDA { sinks[0][k].merge(sinks[u + 1][k]); });
+    });
+    if constexpr (!Sink::kSorts && kChannels == 3) {
+      hn::Vec<DV> largest[3] = {sinks[0][0].largest, sinks[0][1].largest, sinks[0][2].largest};
+      sortThree(DV(), largest);
+      unrolled<3>([&](auto k) KELI_LAMBDA { sinks[0][k].largest = largest[k]; });
     }
     unrolled<kVectors>([&](auto k) KELI_LAMBDA {
       sinks[0][k].each(taken, [&](std::size_t lane, auto value) KELI_LAMBDA {
-        const std::size_t channel = kChannels == 1   ? 0
-                                    : kChannels == 4 ? lane % 4
-                                    : Sink::kSorts   ? k
-                                                     : (k * kN + lane) % 3;
+        const std::size_t channel = kChannels == 1 ? 0 : kChannels == 4 ? lane % 4 : k;
         Kind::into(totals.value[channel], Added::of(value));
       });
     });
-    for (std::size_t u = 0; u < kUnroll; ++u) {
-      for (std::size_t k = 0; k < kVectors; ++k) sinks[u][k] = Sink();
-    }
+    unrolled<kUnroll>([&](auto u) KELI_LAMBDA {
+      unrolled<kVectors>([&](auto k) KELI_LAMBDA { sinks[u][k] = Sink(); });
+    });
   }
 
   static HWY_INLINE void samples(std::size_t n, sums::Totals& totals, const TS*... src) {
@@ -342,8 +352,8 @@ struct NoTerm {};
 template <class Kind, std::size_t kChannels, class D, class... TS>
 struct TermSinks<Kind, NoTerm, kChannels, D, TS...> {
   static constexpr std::size_t kMost = ~std::size_t{0};
-  template <class... Sources>
-  HWY_INLINE void add(std::size_t, const Sources&...) {}
+  template <std::size_t, class... Sources>
+  HWY_INLINE void add(const Sources&...) {}
   HWY_INLINE void drain(std::size_t, sums::Totals&) {}
   static HWY_INLINE void samples(std::size_t, sums::Totals&, const TS*...) {}
 };
@@ -390,31 +400,42 @@ struct Reduction {
     return loaded;
   }
 
-  template <bool kWhole, std::size_t... S>
-  HWY_INLINE void step(std::index_sequence<S...>, std::size_t u, std::size_t rest,
-                       const TS*... src) {
-    const Vectors loaded[] = {loadStep<kWhole>(src, rest)...};
-    first.add(u, loaded[S]...);
-    second.add(u, loaded[S]...);
+  // Of values that are used more than once.
+  static HWY_INLINE void keep(Vectors& loaded) {
+    if constexpr (sizeof...(TS) == 2 || std::is_same_v<Kind, Squared>)
+      unrolled<kVectors>([&](auto k) KELI_LAMBDA { keepLoaded(loaded.v[k]); });
   }
 
-  // At most as many samples as the sinks have room for.
+  template <bool kWhole, std::size_t kU, std::size_t... S>
+  static HWY_INLINE void step(std::index_sequence<S...>, First& first, Second& second,
+                              std::size_t rest, const TS*... src) {
+    Vectors loaded[] = {loadStep<kWhole>(src, rest)...};
+    (keep(loaded[S]), ...);
+    first.template add<kU>(loaded[S]...);
+    second.template add<kU>(loaded[S]...);
+  }
+
+  // At most as many samples as the sinks have room for. Copies of the sinks stay in registers.
   HWY_INLINE void piece(std::size_t n, const TS*... src) {
     constexpr std::index_sequence_for<TS...> kSources;
+    First f = first;
+    Second s = second;
     std::size_t i = 0;
     for (; i + kUnroll * kStep <= n; i += kUnroll * kStep) {
-      unrolled<kUnroll>([&](auto u)
-                            KELI_LAMBDA { step<true>(kSources, u, 0, (src + i + u * kStep)...); });
+      unrolled<kUnroll>(
+          [&](auto u) KELI_LAMBDA { step<true, u>(kSources, f, s, 0, (src + i + u * kStep)...); });
     }
     unrolled<kUnroll>([&](auto u) KELI_LAMBDA {
       if (i + kStep <= n) {
-        step<true>(kSources, u, 0, (src + i)...);
+        step<true, u>(kSources, f, s, 0, (src + i)...);
         i += kStep;
       } else if (i < n) {
-        step<false>(kSources, u, n - i, (src + i)...);
+        step<false, u>(kSources, f, s, n - i, (src + i)...);
         i = n;
       }
     });
+    first = f;
+    second = s;
     taken += (n + kStep - 1) / kStep;
   }
 

@@ -21,7 +21,7 @@ struct Totals {
 // layout and the vectors, and lanes are emptied into double precision every kRounds additions. So
 // results depend on nothing but the samples, and lose little in large regions.
 struct FloatTotals {
-  static constexpr std::size_t kLanes = 96;  // a multiple of all channels and vectors
+  static constexpr std::size_t kLanes = 48;  // a multiple of all channels and vectors
   static constexpr unsigned kRounds = 256;
 
   alignas(64) float lanes[kLanes] = {};
