@@ -2230,12 +2230,12 @@ KELI_API KelStatus keliSum_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roi
  *
  * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
  * into one accumulator and those of odd columns into another, row after row, and adds the two
- * at the end. Every other hint sums in single precision, in 48 partial sums of fixed places
- * that are emptied into double precision; the result is the same for every step, processor and
- * number of threads, and may differ from the accurate one in the last digits of single
- * precision. A NaN among the samples makes the result NaN. One value for C1, an array of one
- * for each channel otherwise: three for C3 and AC4, which leaves the fourth channel out, four
- * for C4.
+ * at the end. Every other hint sums in single precision, in 64 or 96 partial sums of fixed
+ * places that are emptied into double precision; the result is the same for every step,
+ * processor and number of threads, and may differ from the accurate one in the last digits of
+ * single precision. A NaN among the samples makes the result NaN. One value for C1, an array of
+ * one for each channel otherwise: three for C3 and AC4, which leaves the fourth channel out,
+ * four for C4.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
  * below 1 in width or height; kelStatusBadStep if a step is below 1.
@@ -2275,11 +2275,11 @@ KELI_API KelStatus keliMean_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize ro
  * number's reciprocal, so the last digit may differ. hint kelAlgHintAccurate sums in double
  * precision: of each channel, samples of even columns into one accumulator and those of odd
  * columns into another, row after row, and adds the two at the end. Every other hint sums in
- * single precision, in 48 partial sums of fixed places that are emptied into double precision;
- * the result is the same for every step, processor and number of threads, and may differ from
- * the accurate one in the last digits of single precision. A NaN among the samples makes the
- * result NaN. One value for C1, an array of one for each channel otherwise: three for C3 and
- * AC4, which leaves the fourth channel out, four for C4.
+ * single precision, in 64 or 96 partial sums of fixed places that are emptied into double
+ * precision; the result is the same for every step, processor and number of threads, and may
+ * differ from the accurate one in the last digits of single precision. A NaN among the samples
+ * makes the result NaN. One value for C1, an array of one for each channel otherwise: three for
+ * C3 and AC4, which leaves the fourth channel out, four for C4.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
  * below 1 in width or height; kelStatusBadStep if a step is below 1.
@@ -2530,12 +2530,12 @@ KELI_API KelStatus keliNorm_L1_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize
  *
  * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
  * into one accumulator and those of odd columns into another, row after row, and adds the two
- * at the end. Every other hint sums in single precision, in 48 partial sums of fixed places
- * that are emptied into double precision; the result is the same for every step, processor and
- * number of threads, and may differ from the accurate one in the last digits of single
- * precision. A NaN among the samples makes the result NaN. One value for C1, an array of one
- * for each channel otherwise: three for C3 and AC4, which leaves the fourth channel out, four
- * for C4.
+ * at the end. Every other hint sums in single precision, in 64 or 96 partial sums of fixed
+ * places that are emptied into double precision; the result is the same for every step,
+ * processor and number of threads, and may differ from the accurate one in the last digits of
+ * single precision. A NaN among the samples makes the result NaN. One value for C1, an array of
+ * one for each channel otherwise: three for C3 and AC4, which leaves the fourth channel out,
+ * four for C4.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
  * below 1 in width or height; kelStatusBadStep if a step is below 1.
@@ -2573,12 +2573,12 @@ KELI_API KelStatus keliNorm_L2_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize
  *
  * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
  * into one accumulator and those of odd columns into another, row after row, and adds the two
- * at the end. Every other hint sums in single precision, in 48 partial sums of fixed places
- * that are emptied into double precision; the result is the same for every step, processor and
- * number of threads, and may differ from the accurate one in the last digits of single
- * precision. A NaN among the samples makes the result NaN. One value for C1, an array of one
- * for each channel otherwise: three for C3 and AC4, which leaves the fourth channel out, four
- * for C4.
+ * at the end. Every other hint sums in single precision, in 64 or 96 partial sums of fixed
+ * places that are emptied into double precision; the result is the same for every step,
+ * processor and number of threads, and may differ from the accurate one in the last digits of
+ * single precision. A NaN among the samples makes the result NaN. One value for C1, an array of
+ * one for each channel otherwise: three for C3 and AC4, which leaves the fourth channel out,
+ * four for C4.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
  * below 1 in width or height; kelStatusBadStep if a step is below 1.
@@ -2641,12 +2641,12 @@ KELI_API KelStatus keliNormDiff_L1_16s_C4R(const Kel16s* pSrc1, int src1Step, co
  *
  * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
  * into one accumulator and those of odd columns into another, row after row, and adds the two
- * at the end. Every other hint sums in single precision, in 48 partial sums of fixed places
- * that are emptied into double precision; the result is the same for every step, processor and
- * number of threads, and may differ from the accurate one in the last digits of single
- * precision. Differences are formed in the precision of the sums. A NaN among the samples makes
- * the result NaN. One value for C1, an array of one for each channel otherwise: three for C3
- * and AC4, which leaves the fourth channel out, four for C4.
+ * at the end. Every other hint sums in single precision, in 64 or 96 partial sums of fixed
+ * places that are emptied into double precision; the result is the same for every step,
+ * processor and number of threads, and may differ from the accurate one in the last digits of
+ * single precision. Differences are formed in the precision of the sums. A NaN among the
+ * samples makes the result NaN. One value for C1, an array of one for each channel otherwise:
+ * three for C3 and AC4, which leaves the fourth channel out, four for C4.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
  * below 1 in width or height; kelStatusBadStep if a step is below 1.
@@ -2684,12 +2684,12 @@ KELI_API KelStatus keliNormDiff_L2_16s_C4R(const Kel16s* pSrc1, int src1Step, co
  *
  * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
  * into one accumulator and those of odd columns into another, row after row, and adds the two
- * at the end. Every other hint sums in single precision, in 48 partial sums of fixed places
- * that are emptied into double precision; the result is the same for every step, processor and
- * number of threads, and may differ from the accurate one in the last digits of single
- * precision. Differences are formed in the precision of the sums. A NaN among the samples makes
- * the result NaN. One value for C1, an array of one for each channel otherwise: three for C3
- * and AC4, which leaves the fourth channel out, four for C4.
+ * at the end. Every other hint sums in single precision, in 64 or 96 partial sums of fixed
+ * places that are emptied into double precision; the result is the same for every step,
+ * processor and number of threads, and may differ from the accurate one in the last digits of
+ * single precision. Differences are formed in the precision of the sums. A NaN among the
+ * samples makes the result NaN. One value for C1, an array of one for each channel otherwise:
+ * three for C3 and AC4, which leaves the fourth channel out, four for C4.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
  * below 1 in width or height; kelStatusBadStep if a step is below 1.
@@ -2760,11 +2760,11 @@ KELI_API KelStatus keliNormRel_L1_16s_C4R(const Kel16s* pSrc1, int src1Step, con
  *
  * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
  * into one accumulator and those of odd columns into another, row after row, and adds the two
- * at the end. Every other hint sums in single precision, in 48 partial sums of fixed places
- * that are emptied into double precision; the result is the same for every step, processor and
- * number of threads, and may differ from the accurate one in the last digits of single
- * precision. Differences are formed in the precision of the sums. A NaN among the samples makes
- * the result NaN. Where the norm of src2 is below the least normal double
+ * at the end. Every other hint sums in single precision, in 64 or 96 partial sums of fixed
+ * places that are emptied into double precision; the result is the same for every step,
+ * processor and number of threads, and may differ from the accurate one in the last digits of
+ * single precision. Differences are formed in the precision of the sums. A NaN among the
+ * samples makes the result NaN. Where the norm of src2 is below the least normal double
  * (2.2250738585072014e-308), or NaN, in any channel, no channel is divided: the values are
  * those of NormDiff, and the status is kelStatusDivByZeroWarning. One value for C1, an array of
  * one for each channel otherwise: three for C3 and AC4, which leaves the fourth channel out,
@@ -2811,11 +2811,11 @@ KELI_API KelStatus keliNormRel_L2_16s_C4R(const Kel16s* pSrc1, int src1Step, con
  *
  * hint kelAlgHintAccurate sums in double precision: of each channel, samples of even columns
  * into one accumulator and those of odd columns into another, row after row, and adds the two
- * at the end. Every other hint sums in single precision, in 48 partial sums of fixed places
- * that are emptied into double precision; the result is the same for every step, processor and
- * number of threads, and may differ from the accurate one in the last digits of single
- * precision. Differences are formed in the precision of the sums. A NaN among the samples makes
- * the result NaN. Where the norm of src2 is below the least normal double
+ * at the end. Every other hint sums in single precision, in 64 or 96 partial sums of fixed
+ * places that are emptied into double precision; the result is the same for every step,
+ * processor and number of threads, and may differ from the accurate one in the last digits of
+ * single precision. Differences are formed in the precision of the sums. A NaN among the
+ * samples makes the result NaN. Where the norm of src2 is below the least normal double
  * (2.2250738585072014e-308), or NaN, in any channel, no channel is divided: the values are
  * those of NormDiff, and the status is kelStatusDivByZeroWarning. One value for C1, an array of
  * one for each channel otherwise: three for C3 and AC4, which leaves the fourth channel out,

@@ -44,9 +44,9 @@ Kernel<kSources, TotalsOf<kWhat, T>> kernelOf() {
       if constexpr (kSources == 1) return floatsOfOne();
       if constexpr (kSources == 2) return floatsOfTwo();
     }();
-    if constexpr (kWhat == What::kSum) return kernels.sums;
-    if constexpr (kWhat == What::kL1) return kernels.magnitudes;
-    if constexpr (kWhat == What::kL2) return kernels.squares;
+    if constexpr (kWhat == What::kSum) return kernels.sums.template of<kLayout>();
+    if constexpr (kWhat == What::kL1) return kernels.magnitudes.template of<kLayout>();
+    if constexpr (kWhat == What::kL2) return kernels.squares.template of<kLayout>();
     if constexpr (kWhat == What::kInf) return kernels.largest.template of<kLayout>();
   } else if constexpr (std::is_same_v<T, Kel32s>) {
     static_assert(kWhat == What::kInf && kSources == 1);
@@ -95,28 +95,31 @@ Results resultsOf(FloatTotals& totals) {
   constexpr std::size_t kStored = pixelSamples(kLayout);
   totals.empty();
   Results results;
-  for (std::size_t i = 0; i < FloatTotals::kLanes; ++i)
+  for (std::size_t i = 0; i < floatLanes(kStored); ++i)
     results.value[i % kStored] += totals.sums[i];
   for (double& value : results.value) value = settled(value);
   return results;
 }
 
-// Whether the totals take the samples of a row one after another whatever the rows: then a region
-// without padding is one long row.
-template <class Total>
-constexpr bool kJoinsRows = std::is_same_v<Total, Totals>;
-
-template <class T, class Total>
-Band<1> bandOf(const T* src, int srcStep, std::size_t n, int height) {
-  return kJoinsRows<Total> ? readBand(src, srcStep, n, height, sizeof(T))
-                           : makeBand(src, srcStep, nullptr, 0, n, height);
+// Bands for such totals. A region without padding is one long row where that gives every sample the
+// same place.
+template <Layout kLayout, class Total>
+bool joinsRows(std::size_t n) {
+  return std::is_same_v<Total, Totals> || n % floatLanes(pixelSamples(kLayout)) == 0;
 }
 
-template <class T, class Total>
+template <class T, Layout kLayout, class Total>
+Band<1> bandOf(const T* src, int srcStep, std::size_t n, int height) {
+  return joinsRows<kLayout, Total>(n) ? readBand(src, srcStep, n, height, sizeof(T))
+                                      : makeBand(src, srcStep, nullptr, 0, n, height);
+}
+
+template <class T, Layout kLayout, class Total>
 Band<2> bandOf(const T* src1, int src1Step, const T* src2, int src2Step, std::size_t n,
                int height) {
-  return kJoinsRows<Total> ? readBand(src1, src1Step, src2, src2Step, n, height, sizeof(T))
-                           : makeBand(src1, src1Step, src2, src2Step, nullptr, 0, n, height);
+  return joinsRows<kLayout, Total>(n)
+             ? readBand(src1, src1Step, src2, src2Step, n, height, sizeof(T))
+             : makeBand(src1, src1Step, src2, src2Step, nullptr, 0, n, height);
 }
 
 // ---- Double precision in a fixed order -----------------------------------------------------
@@ -169,7 +172,8 @@ Results reduce(const T* src, int srcStep, KeliSize size, KelHintAlgorithm hint) 
   }
   TotalsOf<kWhat, T> totals;
   kernelOf<kWhat, T, kLayout, 1>()(
-      bandOf<T, decltype(totals)>(src, srcStep, rowSamples<kLayout>(size), size.height), &totals);
+      bandOf<T, kLayout, decltype(totals)>(src, srcStep, rowSamples<kLayout>(size), size.height),
+      &totals);
   return resultsOf<kWhat, T, kLayout>(totals);
 }
 
@@ -188,8 +192,8 @@ Results reduce(const T* src1, int src1Step, const T* src2, int src2Step, KeliSiz
   }
   TotalsOf<kWhat, T> totals;
   kernelOf<kWhat, T, kLayout, 2>()(
-      bandOf<T, decltype(totals)>(src1, src1Step, src2, src2Step, rowSamples<kLayout>(size),
-                                  size.height),
+      bandOf<T, kLayout, decltype(totals)>(src1, src1Step, src2, src2Step,
+                                           rowSamples<kLayout>(size), size.height),
       &totals);
   return resultsOf<kWhat, T, kLayout>(totals);
 }
@@ -235,7 +239,7 @@ Pair reducePair(const T* src1, int src1Step, const T* src2, int src2Step, KeliSi
   const std::size_t n = rowSamples<kLayout>(size);
   if constexpr (!std::is_same_v<T, Kel32f>) {
     return reducePairOfIntegers<kWhat, T, kLayout>(
-        bandOf<T, Totals>(src1, src1Step, src2, src2Step, n, size.height));
+        bandOf<T, kLayout, Totals>(src1, src1Step, src2, src2Step, n, size.height));
   } else if (hint == kelAlgHintAccurate && kWhat != What::kInf) {
     return {reduce<kWhat, T, kLayout>(src1, src1Step, src2, src2Step, size, hint),
             reduce<kWhat, T, kLayout>(src2, src2Step, size, hint)};

@@ -64,19 +64,22 @@ struct FloatBits {
   }
 };
 
-template <class Term>
-void ownLanes(const Band<1>& b, sums::FloatTotals* totals) {
-  addToLanes<Term, float>(b, *totals);
-}
-template <class Term>
-void ownLanesOfTwo(const Band<2>& b, sums::FloatTotals* totals) {
-  addToLanes<Term, float, float>(b, *totals);
+template <std::size_t kChannels, class Term, class... TS>
+void ownLanes(const Band<sizeof...(TS)>& b, sums::FloatTotals* totals) {
+  addToLanes<sums::floatLanes(kChannels), Term, TS...>(b, *totals);
 }
 
-constexpr sums::Floats<1> kOfOne = {ownLanes<FloatItself>, ownLanes<FloatMagnitude>,
-                                    ownLanes<FloatSquare>, kReduction<Largest, FloatBits, float>};
-constexpr sums::Floats<2> kOfTwo = {nullptr, ownLanesOfTwo<FloatMagnitude>,
-                                    ownLanesOfTwo<FloatSquare>,
+template <class Term, class... TS>
+constexpr sums::ByChannels<sizeof...(TS), sums::FloatTotals> kSums = {
+    ownLanes<1, Term, TS...>, ownLanes<3, Term, TS...>, ownLanes<1, Term, TS...>};
+static_assert(sums::floatLanes(1) == sums::floatLanes(4));
+
+constexpr sums::Floats<1> kOfOne = {kSums<FloatItself, float>, kSums<FloatMagnitude, float>,
+                                    kSums<FloatSquare, float>,
+                                    kReduction<Largest, FloatBits, float>};
+constexpr sums::Floats<2> kOfTwo = {{},
+                                    kSums<FloatMagnitude, float, float>,
+                                    kSums<FloatSquare, float, float>,
                                     kReduction<Largest, FloatBits, float, float>};
 constexpr sums::ByChannels<1> kLargest32s = {ownReduction<Largest, 1, Magnitude, std::int32_t>,
                                              nullptr, nullptr};

@@ -17,19 +17,24 @@ struct Totals {
   std::uint64_t value[4] = {};
 };
 
-// Sums of 32f in single precision: sample i of a row is added to lane i % kLanes, whatever the
-// layout and the vectors, and lanes are emptied into double precision every kRounds additions. So
-// results depend on nothing but the samples, and lose little in large regions.
+// Partial sums of 32f in single precision for images of so many stored channels: whole cycles of
+// them, and whole vectors. Rows of a multiple of that can follow each other as one long row; widths
+// are multiples of 64 more often than of 96.
+constexpr std::size_t floatLanes(std::size_t channels) { return channels == 3 ? 96 : 64; }
+
+// Sample i of a row is added to lane i % floatLanes, whatever the vectors, and lanes are emptied
+// into double precision every kRounds additions. So results depend on nothing but the samples, and
+// lose little in large regions.
 struct FloatTotals {
-  static constexpr std::size_t kLanes = 48;  // a multiple of all channels and vectors
+  static constexpr std::size_t kMostLanes = 96;
   static constexpr unsigned kRounds = 256;
 
-  alignas(64) float lanes[kLanes] = {};
-  double sums[kLanes] = {};
+  alignas(64) float lanes[kMostLanes] = {};
+  double sums[kMostLanes] = {};
   unsigned rounds = 0;
 
   void empty() {
-    for (std::size_t i = 0; i < kLanes; ++i) {
+    for (std::size_t i = 0; i < kMostLanes; ++i) {
       sums[i] += static_cast<double>(lanes[i]);
       lanes[i] = 0;
     }
@@ -42,12 +47,12 @@ template <int kSources, class Total>
 using Kernel = void (*)(const Band<kSources>& b, Total* totals);
 
 // A kernel for each number of stored channels that it tells apart.
-template <int kSources>
+template <int kSources, class Total = Totals>
 struct ByChannels {
-  Kernel<kSources, Totals> c1, c3, c4;
+  Kernel<kSources, Total> c1, c3, c4;
 
   template <Layout kLayout>
-  Kernel<kSources, Totals> of() const {
+  Kernel<kSources, Total> of() const {
     return kLayout == Layout::C1 ? c1 : kLayout == Layout::C3 ? c3 : c4;
   }
 };
@@ -71,7 +76,7 @@ const ByChannels<1>& signedSums();
 
 template <int kSources>
 struct Floats {
-  Kernel<kSources, FloatTotals> sums, magnitudes, squares;  // sums: of one image alone
+  ByChannels<kSources, FloatTotals> sums, magnitudes, squares;  // sums: of one image alone
   ByChannels<kSources> largest;
 };
 
