@@ -128,10 +128,12 @@ void setThreads(int threads) {
 // "keliAdd_8u_C1RSfs:3" with a scale factor of 3, "keliHistogramEven_8u_C1R:257:flat" with so many
 // levels over a flat image.
 std::string labelOf(const Entry& entry) {
+  static constexpr const char* kRelations[] = {":less", ":lessEq", ":eq", ":greaterEq", ":greater"};
   std::string label = entry.function->name;
   const Choices& choices = entry.row->choices;
   for (const registry::Argument& a : entry.function->arguments) {
     if (a.role == registry::Role::kScaleFactor) label += ":" + std::to_string(choices.scaleFactor);
+    if (a.role == registry::Role::kCompareOp) label += kRelations[choices.compareOp];
     if (a.role == registry::Role::kLevelCount) label += ":" + std::to_string(choices.levels);
   }
   if (choices.content == Content::kPhotograph) label += ":photograph";

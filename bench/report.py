@@ -25,6 +25,10 @@ CHARTED = [
     "keliDiv_32f_C1R", "keliAnd_8u_C1R", "keliRShiftC_16s_C1R", "keliAbs_16s_C1R",
     "keliSqr_8u_C1RSfs:0", "keliSqrt_8u_C1RSfs:0", "keliSqrt_32f_C1R", "keliLn_32f_C1R",
     "keliExp_32f_C1R",
+    "keliThreshold_8u_C1R:less", "keliThreshold_LTValGTVal_16s_C1R", "keliCompare_8u_C1R:less",
+    "keliSum_8u_C1R", "keliMean_8u_C3R", "keliMinMax_8u_C1R", "keliMaxIndx_16s_C1R",
+    "keliCountInRange_8u_C1R", "keliNorm_L2_32f_C1R", "keliNormDiff_L1_16s_C1R",
+    "keliNormRel_L2_8u_C1R",
 ]
 
 HEAD = """\
@@ -42,14 +46,17 @@ of copying the larger of source and destination (memcpy at once and in pieces of
 32-byte loads and stores, one or four in a round, plain and streaming); for functions of two images,
 of reading both and writing their bits joined with such loops; for functions that rewrite a part of
 an image without a source, of rewriting it in place with those loops; for fills, of writing the
-destination (memset, loops of stores); for functions that only read, of reading the source. A
-fraction can exceed 1: the loops are not the best possible code, and a function may touch fewer
-bytes than its images hold.
+destination (memset, loops of stores); for functions that only read, of reading the sources (sums of
+loads of 8, 32 and 64 bytes); for masks smaller than their sources, of reading these and writing the
+mask. A fraction can exceed 1: the loops are not the best possible code, and a function may touch
+fewer bytes than its images hold.
 
 **peer** is the time of the best of the other libraries' equivalents divided by the function's time:
 above 1 the function is faster. Before it is timed, every peer's result is compared with the
 function's. "alpha set" and "alpha copied" mark peers that also write the fourth sample, which the
-function leaves alone. A number after a function's name is its scale factor.
+function leaves alone. A peer of a reduction answers numbers, which are compared; peers of norms take
+all channels as one. What follows a function's name is its scale factor, its relation, or the number
+of a histogram's levels and what its image holds where that is not noise.
 
 In every row all contestants take turns over many rounds, each measured over at least 20
 microseconds, and the best time of each counts. Images come from the library's allocators; masks
