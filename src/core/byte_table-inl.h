@@ -7,6 +7,7 @@
 #endif
 
 #include "core/map-inl.h"
+#include "core/vector_tables-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {

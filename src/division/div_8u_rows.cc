@@ -8,6 +8,7 @@
 #define HWY_TARGET_INCLUDE "division/div_8u_rows.cc"
 #include <hwy/foreach_target.h>
 //
+#include "core/vector_tables-inl.h"
 #include "division/quotient-inl.h"
 
 HWY_BEFORE_NAMESPACE();

@@ -9,7 +9,7 @@
 #define HWY_TARGET_INCLUDE "histogram/find_rows.cc"
 #include <hwy/foreach_target.h>
 //
-#include "core/simd-inl.h"
+#include "core/vector_tables-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {

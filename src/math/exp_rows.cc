@@ -9,6 +9,7 @@
 #include <hwy/foreach_target.h>
 //
 #include "math/tables.h"
+#include "core/vector_tables-inl.h"
 #include "math/unary-inl.h"
 
 HWY_BEFORE_NAMESPACE();

@@ -10,6 +10,7 @@
 #include <limits>
 
 #include "core/scale-inl.h"
+#include "core/vector_tables-inl.h"
 #include "math/unary-inl.h"
 
 HWY_BEFORE_NAMESPACE();
