@@ -15,10 +15,6 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
-#ifndef KELI_EXT_BYTES
-#define KELI_EXT_BYTES 64
-#endif
-
 // The extremes in one order.
 template <class Order, class D, std::size_t kCycle, std::size_t kVectors>
 struct Accumulators {
@@ -103,14 +99,13 @@ HWY_INLINE void extremesOfSamples(const Band<1>& b, T* extremes) {
 
 template <class T, std::size_t kCycle, class... Operations>
 void ownExtremes(const Band<1>& b, T* minima, T* maxima) {
-  const bool done =
-      withVectors<T, kDistinctOf<kCycle>, KELI_EXT_BYTES>(b.n, [&](auto d) KELI_LAMBDA {
-        using D = decltype(d);
-        constexpr std::size_t kVectors = kCycle == 3 ? 6 : 4;
-        ExtremesSweep<kVectors, Accumulators<Order<Operations, T>, D, kCycle, kVectors>...> sweep;
-        for (std::size_t y = 0; y < b.rows; ++y) sweepRow(d, sweep, b.srcRow<T>(0, y), b.n);
-        sweep.finish(minima, maxima);
-      });
+  const bool done = withVectors<T, kDistinctOf<kCycle>, 64>(b.n, [&](auto d) KELI_LAMBDA {
+    using D = decltype(d);
+    constexpr std::size_t kVectors = kCycle == 3 ? 6 : 4;
+    ExtremesSweep<kVectors, Accumulators<Order<Operations, T>, D, kCycle, kVectors>...> sweep;
+    for (std::size_t y = 0; y < b.rows; ++y) sweepRow(d, sweep, b.srcRow<T>(0, y), b.n);
+    sweep.finish(minima, maxima);
+  });
   if (done) return;
   (extremesOfSamples<kCycle, Order<Operations, T>>(b, Order<Operations, T>::pick(minima, maxima)),
    ...);

@@ -12,6 +12,7 @@
 #include <limits>
 #include <type_traits>
 
+#include "extremes/extremes.h"
 #include "sums/totals.h"
 
 namespace keli::sums {
@@ -122,6 +123,19 @@ Band<2> bandOf(const T* src1, int src1Step, const T* src2, int src2Step, std::si
              : makeBand(src1, src1Step, src2, src2Step, nullptr, 0, n, height);
 }
 
+// The largest magnitudes of one image of integers, from the extremes of its channels.
+template <class T, Layout kLayout>
+Results largestOfIntegers(const Band<1>& b) {
+  using Operation = std::conditional_t<std::is_signed_v<T>, extremes::MinMax, extremes::Max>;
+  extremes::Extremes<T> e;
+  extremes::find<Operation, T, kLayout>(b, e);
+  Results results;
+  for (int k = 0; k < usedChannels(kLayout); ++k)
+    results.value[k] =
+        std::max(static_cast<double>(e.maxima[k]), -static_cast<double>(e.minima[k]));
+  return results;
+}
+
 // ---- Double precision in a fixed order -----------------------------------------------------
 
 template <What kWhat>
@@ -171,10 +185,14 @@ Results reduce(const T* src, int srcStep, KeliSize size, KelHintAlgorithm hint) 
     }
   }
   TotalsOf<kWhat, T> totals;
-  kernelOf<kWhat, T, kLayout, 1>()(
-      bandOf<T, kLayout, decltype(totals)>(src, srcStep, rowSamples<kLayout>(size), size.height),
-      &totals);
-  return resultsOf<kWhat, T, kLayout>(totals);
+  const Band<1> b =
+      bandOf<T, kLayout, decltype(totals)>(src, srcStep, rowSamples<kLayout>(size), size.height);
+  if constexpr (kWhat == What::kInf && sizeof(T) < 4) {
+    return largestOfIntegers<T, kLayout>(b);
+  } else {
+    kernelOf<kWhat, T, kLayout, 1>()(b, &totals);
+    return resultsOf<kWhat, T, kLayout>(totals);
+  }
 }
 
 // Of src1 - src2.

@@ -14,9 +14,8 @@ HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
 constexpr sums::ByChannels<1> kSigned = kReduction<Added, Itself, Kel16s>;
-constexpr sums::Integers<1> kOfOne = {kReduction<Added, Magnitude, Kel16s>,
-                                      kReduction<Squared, Itself, Kel16s>,
-                                      kReduction<Largest, Magnitude, Kel16s>};
+constexpr sums::Integers<1> kOfOne = {
+    kReduction<Added, Magnitude, Kel16s>, kReduction<Squared, Itself, Kel16s>, {}};
 constexpr sums::Integers<2> kOfTwo = {kReduction<Added, Difference, Kel16s, Kel16s>,
                                       kReduction<Squared, Difference, Kel16s, Kel16s>,
                                       kReduction<Largest, Difference, Kel16s, Kel16s>};

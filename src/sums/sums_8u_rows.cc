@@ -12,9 +12,8 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
-constexpr sums::Integers<1> kOfOne = {kReduction<Added, Magnitude, Kel8u>,
-                                      kReduction<Squared, Magnitude, Kel8u>,
-                                      kReduction<Largest, Magnitude, Kel8u>};
+constexpr sums::Integers<1> kOfOne = {
+    kReduction<Added, Magnitude, Kel8u>, kReduction<Squared, Magnitude, Kel8u>, {}};
 constexpr sums::Integers<2> kOfTwo = {kReduction<Added, Difference, Kel8u, Kel8u>,
                                       kReduction<Squared, Difference, Kel8u, Kel8u>,
                                       kReduction<Largest, Difference, Kel8u, Kel8u>};

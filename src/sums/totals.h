@@ -58,7 +58,8 @@ struct ByChannels {
 };
 
 // Of one image (src) or of the difference of two (src1 - src2). largest: of magnitudes; those of
-// 32f as the bits of a float, of which a NaN's are the largest.
+// 32f as the bits of a float, of which a NaN's are the largest. Of one image of 8u or 16s there is
+// none: its extremes tell.
 template <int kSources>
 struct Integers {
   ByChannels<kSources> magnitudes, squares, largest;
