@@ -14,7 +14,8 @@ inline bool isRelation(KelCmpOp op) { return op >= kelCmpLess && op <= kelCmpGre
 inline KelCmpOp exchanged(KelCmpOp op) { return kelCmpGreater - op; }
 
 template <class T, Layout kLayout, int kSources>
-KelStatus run(Band<kSources> b, const Kernels<kSources>& kernels, Terms terms) {
+KelStatus run(Band<kSources> b, const Kernels<kSources>& kernels, const Terms& given) {
+  Terms terms = given;
   const auto kernel = kLayout == Layout::C1   ? kernels.c1
                       : kLayout == Layout::C3 ? kernels.c3
                                               : kernels.c4;
