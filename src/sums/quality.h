@@ -33,25 +33,16 @@ class RowBlocks {
   int rows_;
 };
 
-template <class T>
-struct Plane {
-  const T* data;
-  int step;
-
-  const T* row(int y) const {
-    return reinterpret_cast<const T*>(bytes(data) + static_cast<std::ptrdiff_t>(y) * step);
-  }
-};
-
+// Exact for 8u, in double precision for 32f.
 template <class T, Layout kLayout>
-Results blockSums(const Plane<T>& image, int first, KeliSize size) {
+Results blockSums(const Band<1>& b) {
   if constexpr (std::is_same_v<T, Kel8u>) {
-    return reduce<What::kSum, T, kLayout>(image.row(first), image.step, size, kelAlgHintNone);
+    Totals totals;
+    kernelOf<What::kSum, T, kLayout, 1>()(b, &totals);
+    return resultsOf<What::kSum, T, kLayout>(totals);
   } else {
     DoubleLanes lanes;
-    qualityKernels<T>().sums(
-        makeBand(image.row(first), image.step, nullptr, 0, rowSamples<kLayout>(size), size.height),
-        lanes);
+    qualityKernels<T>().sums(b, lanes);
     Results results;
     for (std::size_t i = 0; i < kQualityLanes; ++i)
       results.value[i % pixelSamples(kLayout)] += lanes.sums[i];
@@ -76,15 +67,17 @@ void addMoments(const Deviations& totals, Moments (&moments)[4]) {
 template <class T, Layout kLayout>
 KelStatus qualityIndex(const T* src1, int src1Step, const T* src2, int src2Step, KeliSize size,
                        Kel32f* result) {
-  const Plane<T> images[2] = {{src1, src1Step}, {src2, src2Step}};
   const std::size_t n = rowSamples<kLayout>(size);
+  const Band<1> images[2] = {makeBand(src1, src1Step, nullptr, 0, n, size.height),
+                             makeBand(src2, src2Step, nullptr, 0, n, size.height)};
+  const Band<2> both = makeBand(src1, src1Step, src2, src2Step, nullptr, 0, n, size.height);
   const std::size_t read = 2 * sizeof(T) * n * static_cast<std::size_t>(size.height);
   const RowBlocks blocks(size.height);
 
   Results sums[RowBlocks::kMost][2];
   blocks.run(read, [&](int block, int first, int rows) {
     for (int i = 0; i < 2; ++i)
-      sums[block][i] = blockSums<T, kLayout>(images[i], first, {size.width, rows});
+      sums[block][i] = blockSums<T, kLayout>(rowsOf(images[i], {first, rows, nullptr}));
   });
   double means[2][4] = {};
   const double pixels = static_cast<double>(std::int64_t{size.width} * size.height);
@@ -102,9 +95,7 @@ KelStatus qualityIndex(const T* src1, int src1Step, const T* src2, int src2Step,
       totals.mean1[i] = static_cast<float>(means[0][i % pixelSamples(kLayout)]);
       totals.mean2[i] = static_cast<float>(means[1][i % pixelSamples(kLayout)]);
     }
-    qualityKernels<T>().deviations(makeBand(images[0].row(first), src1Step, images[1].row(first),
-                                            src2Step, nullptr, 0, n, rows),
-                                   totals);
+    qualityKernels<T>().deviations(rowsOf(both, {first, rows, nullptr}), totals);
     totals.empty();
     addMoments<kLayout>(totals, moments[block]);
   });

@@ -1,9 +1,7 @@
 // What the row kernels of the quality index add to, in lanes as those of FloatTotals.
 #pragma once
 
-#include <cstddef>
-
-#include "core/band.h"
+#include "sums/totals.h"
 
 namespace keli::sums {
 
@@ -19,18 +17,7 @@ struct DoubleLanes {
 struct Deviations {
   alignas(64) float mean1[kQualityLanes];  // of the channel of each lane
   alignas(64) float mean2[kQualityLanes];
-  struct Products {
-    alignas(64) float lanes[kQualityLanes] = {};
-    double sums[kQualityLanes] = {};
-
-    void empty() {
-      for (std::size_t i = 0; i < kQualityLanes; ++i) {
-        sums[i] += static_cast<double>(lanes[i]);
-        lanes[i] = 0;
-      }
-    }
-  };
-  Products ofBoth, ofFirst, ofSecond;
+  LaneSums<kQualityLanes> ofBoth, ofFirst, ofSecond;
   unsigned rounds = 0;
 
   void empty() {

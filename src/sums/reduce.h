@@ -12,6 +12,7 @@
 #include <limits>
 #include <type_traits>
 
+#include "core/walk.h"
 #include "extremes/extremes.h"
 #include "sums/totals.h"
 
@@ -240,11 +241,9 @@ Pair reducePairOfFloats(const Band<2>& b) {
   const std::size_t rows = std::max<std::size_t>(kBytes / (b.n * sizeof(Kel32f)), 1);
   TotalsOf<kWhat, Kel32f> difference, second;
   for (std::size_t y = 0; y < b.rows; y += rows) {
-    Band<2> both = b;
-    Band<1> one = {{}, {b.srcStep[1]}, nullptr, 0, b.n, 0, false};
-    for (int i = 0; i < 2; ++i) both.src[i] += static_cast<std::ptrdiff_t>(y) * b.srcStep[i];
-    one.src[0] = both.src[1];
-    one.rows = both.rows = std::min(rows, b.rows - y);
+    const Band<2> both =
+        rowsOf(b, {static_cast<int>(y), static_cast<int>(std::min(rows, b.rows - y)), nullptr});
+    const Band<1> one = {{both.src[1]}, {both.srcStep[1]}, nullptr, 0, both.n, both.rows, false};
     kernelOf<kWhat, Kel32f, kLayout, 2>()(both, &difference);
     kernelOf<kWhat, Kel32f, kLayout, 1>()(one, &second);
   }

@@ -87,6 +87,18 @@ HWY_INLINE void eachLane(D d, V v, const F& f) {
   for (std::size_t j = 0; j < hn::MaxLanes(D()); ++j) f(j, lanes[j]);
 }
 
+// The bytes at even and at odd places as 16-bit lanes.
+template <class D>
+struct SplitBytes {
+  using D16 = hn::Repartition<std::int16_t, D>;
+  hn::Vec<D16> even, odd;
+
+  HWY_INLINE explicit SplitBytes(hn::Vec<D> v)
+      : even(hn::And(hn::BitCast(D16(), v), hn::Set(D16(), 0xFF))),
+        odd(hn::BitCast(D16(), hn::ShiftRight<8>(hn::BitCast(hn::RebindToUnsigned<D16>(), v)))) {}
+  static HWY_INLINE D16 tag() { return D16(); }
+};
+
 template <class D>
 struct AddBytes {
   static constexpr bool kSorts = true;
@@ -100,12 +112,8 @@ struct AddBytes {
     if constexpr (kMultipliesBytes) {
       sum = addProductsOfFours(dw, sum, v, hn::Set(d, 1));
     } else {
-      const hn::Repartition<std::int16_t, D> d16;
-      const auto pairs =
-          hn::And(hn::BitCast(d16, v), hn::Set(d16, 0xFF)) +
-          hn::BitCast(d16,
-                      hn::ShiftRight<8>(hn::BitCast(hn::RebindToUnsigned<decltype(d16)>(), v)));
-      sum = addProductsOfPairs(dw, sum, pairs, hn::Set(d16, 1));
+      const SplitBytes<D> split(v);
+      sum = addProductsOfPairs(dw, sum, split.even + split.odd, hn::Set(split.tag(), 1));
     }
   }
   HWY_INLINE void merge(const AddBytes& other) { sum = sum + other.sum; }
@@ -155,11 +163,9 @@ struct AddSquaredBytes {
       sum = addProductsOfFours(dw, sum, v, hn::Xor(v, hn::Set(d, 0x80)));
       linear = addProductsOfFours(dw, linear, v, hn::Set(d, 1));
     } else {
-      const hn::Repartition<std::int16_t, D> d16;
-      const hn::RebindToUnsigned<decltype(d16)> du16;
-      const auto even = hn::And(hn::BitCast(d16, v), hn::Set(d16, 0xFF));
-      const auto odd = hn::BitCast(d16, hn::ShiftRight<8>(hn::BitCast(du16, v)));
-      sum = addProductsOfPairs(dw, addProductsOfPairs(dw, sum, even, even), odd, odd);
+      const SplitBytes<D> split(v);
+      sum = addProductsOfPairs(dw, sum, split.even, split.even);
+      sum = addProductsOfPairs(dw, sum, split.odd, split.odd);
     }
   }
   HWY_INLINE void merge(const AddSquaredBytes& other) {

@@ -22,22 +22,30 @@ struct Totals {
 // are multiples of 64 more often than of 96.
 constexpr std::size_t floatLanes(std::size_t channels) { return channels == 3 ? 96 : 64; }
 
-// Sample i of a row is added to lane i % floatLanes, whatever the vectors, and lanes are emptied
-// into double precision every kRounds additions. So results depend on nothing but the samples, and
-// lose little in large regions.
-struct FloatTotals {
-  static constexpr std::size_t kMostLanes = 96;
-  static constexpr unsigned kRounds = 256;
-
-  alignas(64) float lanes[kMostLanes] = {};
-  double sums[kMostLanes] = {};
-  unsigned rounds = 0;
+// Lanes of single-precision sums, emptied into double precision now and then.
+template <std::size_t kLanes>
+struct LaneSums {
+  alignas(64) float lanes[kLanes] = {};
+  double sums[kLanes] = {};
 
   void empty() {
-    for (std::size_t i = 0; i < kMostLanes; ++i) {
+    for (std::size_t i = 0; i < kLanes; ++i) {
       sums[i] += static_cast<double>(lanes[i]);
       lanes[i] = 0;
     }
+  }
+};
+
+// Sample i of a row is added to lane i % floatLanes, whatever the vectors, and lanes are emptied
+// into double precision every kRounds additions. So results depend on nothing but the samples, and
+// lose little in large regions.
+struct FloatTotals : LaneSums<96> {
+  static constexpr unsigned kRounds = 256;
+
+  unsigned rounds = 0;
+
+  void empty() {
+    LaneSums::empty();
     rounds = 0;
   }
 };
