@@ -159,6 +159,7 @@ def registry(tables, statuses):
     for f, begin in zip(functions, first_argument):
         flags = [str(flag).lower() for flag in
                  (f.in_place, "M" in f.descriptor, f.parallel)]
+        flags.append(f"Reach::k{f.reach[0].upper()}{f.reach[1:]}")
         out.append(f"    {{{c_string(f.name)}, {c_string(f.operation)}, {c_string(f.descriptor)}, "
                    f"{c_string(f.prototype)}, &kEntries[{index[id(f.entry)]}], "
                    f"{{kArguments + {begin}, {len(f.arguments)}}}, {', '.join(flags)}, "

@@ -18,9 +18,20 @@ ROLE_OF_NAME = {
     "pSrc": "source", "pSrc1": "source", "pSrc2": "source", "pDst": "destination",
     "pSrcDst": "inOut", "pMask": "mask", "roiSize": "region", "value": "constant",
     "scaleFactor": "scaleFactor", "cmpOp": "compareOp", "hint": "hint",
+    "srcSize": "sourceRegion", "srcRoiSize": "sourceRegion", "srcROI": "sourceRect",
+    "dstRoiSize": "region", "maskSize": "maskSize", "anchor": "anchor", "pxMap": "map",
+    "pyMap": "map", "topBorderHeight": "topBorder", "leftBorderWidth": "leftBorder",
+    "flip": "axis", "interpolation": "interpolation", "roundMode": "roundMode",
+    "vMin": "rangeMin", "vMax": "rangeMax", "srcBitOffset": "bitOffset",
+    "dstBitOffset": "bitOffset",
 }
-IMAGES = {"source", "destination", "inOut", "mask", "sourceChannel", "destinationChannel"}
-WRITTEN = {"destination", "destinationChannel", "inOut"}
+# inOutWithin: read where the source region lies within it and written as a whole.
+IMAGES = {"source", "destination", "inOut", "inOutWithin", "mask", "map", "sourceChannel",
+          "destinationChannel"}
+WRITTEN = {"destination", "destinationChannel", "inOut", "inOutWithin"}
+# Which source pixels a destination pixel depends on: the one at its place, the 3 x 3 around that,
+# those that the arguments maskSize and anchor tell, or any.
+REACHES = {"pixel", "3x3", "mask", "image"}
 # One value for C1, an array of one for each channel otherwise: of this type, or of the samples'.
 # lower and upper are the ends of a range of samples.
 CONSTANTS = {"constant": "", "shift": "32u", "lower": "", "upper": ""}
@@ -50,6 +61,12 @@ class Argument:
         return self.role in IMAGES and "P" in self.layout
 
     @property
+    def pixel(self):
+        """Bytes from one pixel to the next, as a C expression."""
+        samples = 1 if "P" in self.layout else int(self.layout[-1])
+        return f"{samples} * sizeof({kel(self.sample)})"
+
+    @property
     def declaration(self):
         return f"{self.c_type} {self.name}{self.array}"
 
@@ -70,6 +87,10 @@ class Function:
     def operation(self):
         """The name up to the types: of keliThreshold_GT_8u_C1R it is Threshold_GT."""
         return re.match(r"keli(.+?)(?=_\d|$)", self.name)[1]
+
+    @property
+    def reach(self):
+        return self.entry.get("reach", "pixel")
 
     @property
     def parallel(self):
@@ -94,7 +115,8 @@ class Function:
 
 
 def kel(code):
-    return "uint32_t" if code == "32u" else f"Kel{code}"
+    """The C type of a sample; of 1u, the one that holds eight of them."""
+    return {"32u": "uint32_t", "1u": "Kel8u"}.get(code, f"Kel{code}")
 
 
 def number(code):
@@ -120,6 +142,8 @@ def make_argument(word, types, layouts):
         code, layout, const = given or last, layout_given or layouts[-1], ""
     elif role == "mask":
         code, layout, const = "8u", "C1", "const "
+    elif role == "map":
+        code, layout, const = "32f", "C1", "const "
     if role in IMAGES:
         if "P" in layout:
             return Argument(name, role, f"{const}{kel(code)}* const", f"[{layout[-1]}]", code,
@@ -138,12 +162,19 @@ def make_argument(word, types, layouts):
         "extent": ("int", ""), "stepOut": ("int*", ""), "block": ("void*", ""),
         "unread": (given.replace("~", " "), ""), "compareOp": ("KelCmpOp", ""),
         "hint": ("KelHintAlgorithm", ""), "tolerance": (kel(given or first), ""),
+        "sourceRegion": ("KeliSize", ""), "sourceRect": ("KeliRect", ""),
+        "maskSize": ("KeliSize", ""), "anchor": ("KeliPoint", ""),
+        "element": ("const Kel8u*", ""), "topBorder": ("int", ""), "leftBorder": ("int", ""),
+        "axis": ("KelAxis", ""), "interpolation": ("KelInterpolation", ""),
+        "roundMode": ("KelRoundMode", ""), "bitOffset": ("int", ""),
+        "rangeMin": ("Kel32f", ""), "rangeMax": ("Kel32f", ""),
     }
     if role not in fixed:
         raise SystemExit(f"argument '{word}': unknown role '{role}'")
     c_type, array = fixed[role]
-    return Argument(name, role, c_type, array,
-                    (given or first) if role in ("scalar", "tolerance") else "")
+    sample = {"scalar": given or first, "tolerance": given or first, "rangeMin": "32f",
+              "rangeMax": "32f", "element": "8u"}.get(role, "")
+    return Argument(name, role, c_type, array, sample)
 
 
 def per_channel(name, role, code, layout):
@@ -160,8 +191,11 @@ def per_channel(name, role, code, layout):
 
 def in_place_words(line):
     """The argument words of an in-place member: the destination takes the last source's place, and
-    constants that stand before the destination stand first."""
+    constants that stand before the destination stand first. A line that names the in-place image
+    itself is as it is."""
     items = line.split()
+    if "pSrcDst" in [w.split(":")[0] for w in items]:
+        return items
     sources = [i for i, w in enumerate(items) if w.split(":")[0].startswith("pSrc")]
     last = sources[-1]
     gone = [i for i, w in enumerate(items) if w.split(":")[0] in ("pDst", "dstStep")]
@@ -176,6 +210,8 @@ def in_place_words(line):
 def in_place_actuals(line):
     """What the frame's arguments (the out-of-place ones) are called in the in-place member."""
     names = [w.split(":")[0] for w in line.split()]
+    if "pSrcDst" in names:
+        return names
     two = "pSrc2" in names
     renamed = {"pDst": "pSrcDst", "dstStep": "srcDstStep"}
     if two:
@@ -236,6 +272,21 @@ def histogram_condition(array, text):
     return condition
 
 
+def row_condition(function):
+    """Rows that are shorter than what is read or written of them."""
+    margin = {"3x3": "2", "mask": "maskSize.width - 1"}[function.reach]
+    size, out, step = names_of(function, "region"), [], None
+    for image, step in zip(function.arguments, function.arguments[1:]):
+        if image.role in IMAGES:
+            read = image.role != "destination"
+            out.append(f"shortStep({step.name}, {size}, {margin if read else 0}, {image.pixel})")
+    return " || ".join(out)
+
+
+def all_of(function, *roles):
+    return ", ".join(names_of(function, role) for role in roles)
+
+
 # Check word: (status name, text for the documentation, condition that fails; "" = not applicable).
 # Without a status name, the condition is an expression that gives the status.
 CHECKS = {
@@ -261,6 +312,33 @@ CHECKS = {
                pair_condition("badRange")),
     "epsilon": ("kelStatusBadEpsilon", "not eps >= 0",
                 lambda f: f"!({names_of(f, 'tolerance')} >= 0)"),
+    "span": ("kelStatusEmptyRange", "not vMax - vMin > 0",
+             lambda f: f"!({names_of(f, 'rangeMax')} - {names_of(f, 'rangeMin')} > 0)"),
+    "bits": ("kelStatusBadRange", "the bit offset is outside 0..7",
+             lambda f: f"badBitOffset({names_of(f, 'bitOffset')})"),
+    "borders": ("kelStatusBadSize",
+                "a width or height is below 1, a border is below 0, or the destination is smaller "
+                "than the source and the top and left borders together",
+                lambda f: "badBorders(" + all_of(f, "sourceRegion", "region", "topBorder",
+                                                 "leftBorder") + ")"),
+    "maskSize": ("kelStatusBadMaskSize", "maskSize is below 1 in width or height",
+                 lambda f: f"badSize({names_of(f, 'maskSize')})"),
+    "boxSize": ("kelStatusBadMaskSize", "maskSize is below 2 in width or height",
+                lambda f: f"badBoxSize({names_of(f, 'maskSize')})"),
+    "anchor": ("kelStatusBadAnchor", "anchor lies outside the mask",
+               lambda f: f"badAnchor({all_of(f, 'anchor', 'maskSize')})"),
+    "element": ("kelStatusZeroMask", "every byte of the mask is 0",
+                lambda f: f"allZero({all_of(f, 'element', 'maskSize')})"),
+    "row": ("kelStatusStepTooSmall", "a step is shorter than the row that is read or written",
+            row_condition),
+    "axis": ("kelStatusBadAxis", "flip is none of the axes",
+             lambda f: f"badAxis({names_of(f, 'axis')})"),
+    "sizes": ("kelStatusBadSize",
+              "srcSize, srcROI or dstRoiSize is below 1 in width or height, or srcROI.x or "
+              "srcROI.y is below 0",
+              lambda f: f"badRemapSizes({all_of(f, 'sourceRegion', 'sourceRect', 'region')})"),
+    "interpolation": ("kelStatusBadInterpolation", "interpolation is none of the modes",
+                      lambda f: f"badInterpolation({names_of(f, 'interpolation')})"),
     "channels": ("", "of C3, AC4 and C4, channel by channel, kelStatusNullPointer if its histogram "
                  "or its levels are null, kelStatusBadHistogramLevels if its nLevels is below 2",
                  histogram_condition(True, "histogramStatus({counts}, {levels}, {n}, {channels})")),
@@ -309,6 +387,8 @@ def load():
             unknown = set(entry.get("checks", "").split()) - CHECKS.keys()
             if unknown:
                 raise SystemExit(f"api/{name}.toml: unknown checks {sorted(unknown)}")
+            if entry.get("reach", "pixel") not in REACHES:
+                raise SystemExit(f"api/{name}.toml: unknown reach '{entry['reach']}'")
             entry["functions"] = list(expand(entry))
             unknown = set(entry.get("parallel", [])) - {f.name for f in entry["functions"]}
             if unknown:

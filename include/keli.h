@@ -19,7 +19,7 @@ enum {
   kelStatusNegativeLogWarning = 8, /* the argument of a logarithm was negative in some pixel */
   kelStatusNoMemoryInternal = -4, /* an internal work buffer could not be allocated */
   kelStatusBadSize = -6, /* a width or height is less than 1 */
-  kelStatusBadRange = -7, /* a lower bound exceeds its upper bound */
+  kelStatusBadRange = -7, /* a lower bound exceeds its upper bound, or a number lies outside its range */
   kelStatusNullPointer = -8, /* a required pointer is null */
   kelStatusNoMemory = -9, /* a temporary buffer could not be allocated */
   kelStatusDivisorZero = -10, /* division by a constant that is zero */

@@ -57,6 +57,30 @@ enum {
   kelAlgHintAccurate = 2 /* double precision in a fixed order */
 };
 
+/* How floating-point samples become integers; every value but kelRoundNearest cuts fractions off.
+ */
+typedef int32_t KelRoundMode;
+enum {
+  kelRoundZero = 0,   /* toward zero */
+  kelRoundNearest = 1 /* to the nearest integer, ties to even */
+};
+
+/* The axes that an image is mirrored about. */
+typedef int32_t KelAxis;
+enum {
+  kelAxisHorizontal = 0, /* the order of the rows is reversed */
+  kelAxisVertical = 1,   /* each row is reversed */
+  kelAxisBoth = 2
+};
+
+/* How a value between pixels is formed. */
+typedef int32_t KelInterpolation;
+enum {
+  kelInterpolationNearest = 1,
+  kelInterpolationLinear = 2, /* of 2 x 2 pixels */
+  kelInterpolationCubic = 4   /* of 4 x 4 pixels */
+};
+
 /* All in pixels. */
 typedef struct {
   int32_t width;

@@ -92,6 +92,45 @@ inline KelStatus histogramStatus(Counts* const* counts, Levels* const* levels, c
   return kelStatusOk;
 }
 
+inline bool badBitOffset(int offset) { return offset < 0 || offset > 7; }
+
+// Sums of sizes need more than 32 bits.
+inline bool badBorders(KeliSize src, KeliSize dst, int top, int left) {
+  return badSize(src) || badSize(dst) || top < 0 || left < 0 ||
+         dst.width < std::int64_t{left} + src.width || dst.height < std::int64_t{top} + src.height;
+}
+
+inline bool badBoxSize(KeliSize mask) { return mask.width < 2 || mask.height < 2; }
+
+inline bool badAnchor(KeliPoint anchor, KeliSize mask) {
+  return anchor.x < 0 || anchor.y < 0 || anchor.x >= mask.width || anchor.y >= mask.height;
+}
+
+inline bool allZero(const Kel8u* mask, KeliSize size) {
+  const std::int64_t count = std::int64_t{size.width} * size.height;
+  for (std::int64_t i = 0; i < count; ++i) {
+    if (mask[i] != 0) return false;
+  }
+  return true;
+}
+
+// margin: pixels of a row beyond the region.
+inline bool shortStep(int step, KeliSize size, int margin, std::size_t pixelBytes) {
+  return step < (std::int64_t{size.width} + margin) * static_cast<std::int64_t>(pixelBytes);
+}
+
+inline bool badAxis(KelAxis axis) { return axis < kelAxisHorizontal || axis > kelAxisBoth; }
+
+inline bool badRemapSizes(KeliSize src, KeliRect region, KeliSize dst) {
+  return badSize(src) || region.x < 0 || region.y < 0 || region.width < 1 || region.height < 1 ||
+         badSize(dst);
+}
+
+inline bool badInterpolation(KelInterpolation mode) {
+  return mode != kelInterpolationNearest && mode != kelInterpolationLinear &&
+         mode != kelInterpolationCubic;
+}
+
 inline bool badChannelOrder(const int* order) {
   int o[3];
   std::memcpy(o, order, sizeof(o));

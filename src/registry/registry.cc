@@ -9,9 +9,9 @@ struct TypeInfo {
   std::size_t bytes;
 };
 
-constexpr TypeInfo kTypes[] = {{"", 0},     {"8u", 1},   {"8s", 1},  {"16u", 2}, {"16s", 2},
-                               {"32u", 4},  {"32s", 4},  {"64s", 8}, {"32f", 4}, {"64f", 8},
-                               {"16sc", 4}, {"32sc", 8}, {"32fc", 8}};
+constexpr TypeInfo kTypes[] = {{"", 0},    {"1u", 1},   {"8u", 1},   {"8s", 1},  {"16u", 2},
+                               {"16s", 2}, {"32u", 4},  {"32s", 4},  {"64s", 8}, {"32f", 4},
+                               {"64f", 8}, {"16sc", 4}, {"32sc", 8}, {"32fc", 8}};
 
 constexpr const char* kLayouts[] = {"C1", "C2", "C3", "C4", "AC4", "P2", "P3", "P4", "AP4"};
 
@@ -35,10 +35,11 @@ std::size_t bytesOf(Type type) { return kTypes[static_cast<int>(type)].bytes; }
 const char* nameOf(Type type) { return kTypes[static_cast<int>(type)].name; }
 const char* nameOf(Layout layout) { return kLayouts[static_cast<int>(layout)]; }
 
-bool isImage(Role role) { return role <= Role::kMask; }
+bool isImage(Role role) { return role <= Role::kMap; }
 
 bool isWritten(Role role) {
-  return role == Role::kDestination || role == Role::kDestinationChannel || role == Role::kInOut;
+  return role == Role::kDestination || role == Role::kDestinationChannel || role == Role::kInOut ||
+         role == Role::kInOutWithin;
 }
 
 bool makes(const Function& function, Check check) {
@@ -66,7 +67,7 @@ bool isResult(Role role) {
 
 bool isPointer(const Argument& a) {
   return isImage(a.role) || a.length != 0 || isResult(a.role) || a.role == Role::kLevels ||
-         a.role == Role::kStepOut;
+         a.role == Role::kElement || a.role == Role::kStepOut;
 }
 
 }  // namespace keli::registry

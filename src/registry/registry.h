@@ -12,8 +12,10 @@
 namespace keli::registry {
 
 // Sample types by their codes; kNone for arguments that hold no samples.
+// k1u: eight pixels a byte, the first in its most significant bit.
 enum class Type : std::uint8_t {
   kNone,
+  k1u,
   k8u,
   k8s,
   k16u,
@@ -36,18 +38,33 @@ enum class Role : std::uint8_t {
   kDestination,
   kDestinationChannel,
   kInOut,
+  kInOutWithin,  // written as a whole, and read in the source region, which its pointer addresses
   kMask,
-  kStep,      // bytes between the rows of the image before it in the list
-  kRegion,    // KeliSize of all images
-  kConstant,  // a value or, for several channels, an array of them
-  kShift,     // the same, counts of bits
-  kLower,     // the same, the lower end of a range
-  kUpper,     // its upper end, later in the list
-  kScalar,    // a value, whatever the layout
+  kMap,           // a coordinate for each pixel of the region: first of columns, then of rows
+  kStep,          // bytes between the rows of the image before it in the list
+  kRegion,        // KeliSize of all images, or of all but the sources
+  kSourceRegion,  // KeliSize of the sources
+  kSourceRect,    // a part of it
+  kMaskSize,
+  kAnchor,      // the pixel of the mask that lies on the destination pixel
+  kElement,     // the mask's bytes, row after row: a structuring element
+  kTopBorder,   // destination rows above the source
+  kLeftBorder,  // destination columns left of it
+  kConstant,    // a value or, for several channels, an array of them
+  kShift,       // the same, counts of bits
+  kLower,       // the same, the lower end of a range
+  kUpper,       // its upper end, later in the list
+  kScalar,      // a value, whatever the layout
   kTolerance,
   kScaleFactor,
   kCompareOp,
   kHint,
+  kAxis,
+  kInterpolation,
+  kRoundMode,
+  kBitOffset,  // of the first pixel of a 1u image
+  kRangeMin,   // the ends of a range of values
+  kRangeMax,
   kResult,      // receives a value or, for several channels, an array of them
   kCounts,      // receives a histogram or, for several channels, one for each
   kLevels,      // its boundaries, likewise
@@ -76,9 +93,24 @@ enum class Check : std::uint8_t {
   kThresholds,
   kBounds,
   kEpsilon,
+  kSpan,
+  kBits,
+  kBorders,
+  kMaskSize,
+  kBoxSize,
+  kAnchor,
+  kElement,
+  kRow,
+  kAxis,
+  kSizes,
+  kInterpolation,
   kChannels,
   kLevels,
 };
+
+// Which source pixels a destination pixel depends on: the one at its place, the 3 x 3 around that,
+// those that the mask's size and anchor tell, or any.
+enum class Reach : std::uint8_t { kPixel, k3x3, kMask, kImage };
 
 // What a check answers, and when; kelStatusOk where the text tells both.
 struct CheckInfo {
@@ -146,6 +178,7 @@ struct Function {
   bool inPlace;
   bool masked;
   bool parallel;  // large regions are shared out among threads
+  Reach reach;
   Call call;
 
   // values: one for each argument, in order.
@@ -166,6 +199,7 @@ const Function* find(std::string_view name);
 // "kelStatusBadSize", or "unknown status" for a value that no function returns.
 const char* statusName(KelStatus status);
 
+// Of a sample; of 1u, of the eight that share a byte.
 std::size_t bytesOf(Type type);
 const char* nameOf(Type type);      // the type code: "8u"
 const char* nameOf(Layout layout);  // "AC4"

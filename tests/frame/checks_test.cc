@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstring>
 
-#include "support/test_call.h"
+#include "frame/faults.h"
 
 namespace keli::test {
 namespace {
@@ -14,139 +14,9 @@ namespace {
 using registry::Argument;
 using registry::Check;
 using registry::Role;
-using registry::Type;
 using registry::Value;
 
 using registry::isPointer;
-
-struct Fault {
-  std::string what;
-  std::size_t argument;
-  Value value;
-};
-
-// Arrays of pointers (planes, histograms) of which one is null; kept for the run of the test.
-const void* withNull(const Value& planes, int count, int null) {
-  static std::vector<std::unique_ptr<const void*[]>> kept;
-  kept.push_back(std::make_unique<const void*[]>(4));
-  for (int k = 0; k < count; ++k) {
-    kept.back()[static_cast<std::size_t>(k)] =
-        k == null ? nullptr : static_cast<const void* const*>(planes.p)[k];
-  }
-  return kept.back().get();
-}
-
-// Copies of an array of values of which one is another; kept for the run of the test.
-const void* with(const Value& array, std::size_t sample, int count, int changed, const void* to) {
-  static std::vector<std::vector<std::uint8_t>> kept;
-  const auto* from = static_cast<const std::uint8_t*>(array.p);
-  kept.emplace_back(from, from + sample * static_cast<std::size_t>(count));
-  std::memcpy(kept.back().data() + sample * static_cast<std::size_t>(changed), to, sample);
-  return kept.back().data();
-}
-
-// The number of channel k in an argument, as a double.
-double numberAt(const Argument& a, const Value& value, int k) {
-  if (a.length == 0) {
-    if (a.type == Type::k32f) return value.f;
-    return a.type == Type::k16s ? static_cast<Kel16s>(value.i) : static_cast<double>(value.i);
-  }
-  const auto read = [&](auto sample) {
-    std::memcpy(&sample, static_cast<const std::uint8_t*>(value.p) + k * sizeof(sample),
-                sizeof(sample));
-    return static_cast<double>(sample);
-  };
-  return a.type == Type::k8u    ? read(Kel8u{})
-         : a.type == Type::k16s ? read(Kel16s{})
-         : a.type == Type::k32f ? read(Kel32f{})
-                                : read(int{});
-}
-
-// Faults of a lower end: one above the upper end, which TestCall leaves room for.
-void addRangeFaults(const TestCall& call, std::size_t i, std::vector<Fault>& faults) {
-  const Argument& a = call.function.arguments[i];
-  const std::size_t other = call.find(Role::kUpper);
-  for (int k = 0; k < std::max(a.length, 1); ++k) {
-    const double upper = numberAt(call.function.arguments[other], call.values[other], k);
-    std::uint8_t sample[4];
-    const auto store = [&](auto above) { std::memcpy(sample, &above, sizeof(above)); };
-    if (a.type == Type::k8u) store(static_cast<Kel8u>(upper + 1));
-    if (a.type == Type::k16s) store(static_cast<Kel16s>(upper + 1));
-    if (a.type == Type::k32f) store(std::nextafter(static_cast<Kel32f>(upper), HUGE_VALF));
-    Value bad{};
-    if (a.length != 0) {
-      bad.p = with(call.values[i], registry::bytesOf(a.type), a.length, k, sample);
-    } else if (a.type == Type::k32f) {
-      bad.f = std::nextafter(static_cast<Kel32f>(upper), HUGE_VALF);
-    } else {
-      bad.i = static_cast<std::int64_t>(upper + 1);
-    }
-    faults.push_back({std::string(a.name) + " above the upper end", i, bad});
-  }
-}
-
-// How many pointers an argument's array holds, if it is one of pointers.
-int pointersIn(const Argument& a) {
-  if (registry::isImage(a.role)) return isPlanar(a.layout) ? usedChannels(a.layout) : 0;
-  const bool arrays =
-      a.role == Role::kCounts || a.role == Role::kLevels || a.role == Role::kLevelsOut;
-  return arrays ? a.length : 0;
-}
-
-std::vector<Fault> faultsOf(const TestCall& call) {
-  std::vector<Fault> faults;
-  static constexpr int kBadOrders[][3] = {
-      {3, 0, 0}, {0, -1, 0}, {0, 0, 3}, {INT_MIN, INT_MAX, 1}, {0, 1, -1}};
-  for (std::size_t i = 0; i < call.function.arguments.size; ++i) {
-    const Argument& a = call.function.arguments[i];
-    const auto add = [&](const char* what, auto set) {
-      Fault fault{std::string(a.name) + what, i, call.values[i]};
-      set(fault.value);
-      faults.push_back(fault);
-    };
-    if (isPointer(a)) add(" null", [](Value& v) { v.p = nullptr; });
-    for (int k = 0; k < pointersIn(a); ++k) {
-      add(" with a null", [&](Value& v) { v.p = withNull(v, pointersIn(a), k); });
-    }
-    if (a.role == Role::kStep) {
-      for (const int bad : {0, -1, INT_MIN}) add(" bad", [&](Value& v) { v.i = bad; });
-    }
-    if (a.role == Role::kRegion) {
-      for (const int bad : {0, -1, INT_MIN}) {
-        add(" width bad", [&](Value& v) { v.size.width = bad; });
-        add(" height bad", [&](Value& v) { v.size.height = bad; });
-      }
-    }
-    static constexpr std::uint8_t kZero[8] = {};
-    if (a.role == Role::kConstant && checks(call.function, Check::kDivisor)) {
-      if (a.length == 0) add(" zero", [](Value& v) { v = Value{}; });
-      for (int k = 0; k < a.length; ++k) {
-        add(" with a zero",
-            [&](Value& v) { v.p = with(v, registry::bytesOf(a.type), a.length, k, kZero); });
-      }
-    }
-    if (a.role == Role::kLower) addRangeFaults(call, i, faults);
-    if (a.role == Role::kTolerance) {
-      for (const double bad : {-1e-30, -HUGE_VAL, std::nan("")}) {
-        add(" bad", [&](Value& v) { v.f = bad; });
-      }
-    }
-    if (a.role == Role::kCompareOp && checks(call.function, Check::kOperation)) {
-      for (const int bad : {-1, 1, 2, 3, 5, INT_MIN}) add(" bad", [&](Value& v) { v.i = bad; });
-    }
-    if (a.role == Role::kLevelCount) {
-      for (const int bad : {1, 0, INT_MIN}) {
-        if (a.length == 0) add(" bad", [&](Value& v) { v.i = bad; });
-        for (int k = 0; k < a.length; ++k)
-          add(" with a bad one", [&](Value& v) { v.p = with(v, sizeof(bad), a.length, k, &bad); });
-      }
-    }
-    if (a.role == Role::kOrder) {
-      for (const auto& bad : kBadOrders) add(" bad", [&](Value& v) { v.p = bad; });
-    }
-  }
-  return faults;
-}
 
 bool nullAmong(const TestCall& call, const std::vector<Value>& values, bool constants) {
   for (std::size_t i = 0; i < values.size(); ++i) {
@@ -217,7 +87,71 @@ KelStatus channelStatus(const TestCall& call, const std::vector<Value>& values) 
   return 0;
 }
 
+const Value& valueOf(const TestCall& call, const std::vector<Value>& values, Role role) {
+  return values[call.find(role)];
+}
+
+bool isEmpty(KeliSize size) { return size.width < 1 || size.height < 1; }
+
+bool bordersFail(const TestCall& call, const std::vector<Value>& values) {
+  const KeliSize src = valueOf(call, values, Role::kSourceRegion).size;
+  const KeliSize dst = valueOf(call, values, Role::kRegion).size;
+  const std::int64_t top = valueOf(call, values, Role::kTopBorder).i;
+  const std::int64_t left = valueOf(call, values, Role::kLeftBorder).i;
+  return isEmpty(src) || isEmpty(dst) || top < 0 || left < 0 || dst.width < left + src.width ||
+         dst.height < top + src.height;
+}
+
+bool remapSizesFail(const TestCall& call, const std::vector<Value>& values) {
+  const KeliRect part = valueOf(call, values, Role::kSourceRect).rect;
+  return isEmpty(valueOf(call, values, Role::kSourceRegion).size) || part.x < 0 || part.y < 0 ||
+         isEmpty({part.width, part.height}) || isEmpty(valueOf(call, values, Role::kRegion).size);
+}
+
+bool anchorFails(const TestCall& call, const std::vector<Value>& values) {
+  const KeliPoint anchor = valueOf(call, values, Role::kAnchor).point;
+  const KeliSize mask = valueOf(call, values, Role::kMaskSize).size;
+  return anchor.x < 0 || anchor.y < 0 || anchor.x >= mask.width || anchor.y >= mask.height;
+}
+
+// The bytes of an element, of whatever size it is said to be.
+bool elementFails(const TestCall& call, const std::vector<Value>& values) {
+  const KeliSize mask = valueOf(call, values, Role::kMaskSize).size;
+  const auto* bytes = static_cast<const std::uint8_t*>(valueOf(call, values, Role::kElement).p);
+  for (std::int64_t i = 0; i < std::int64_t{mask.width} * mask.height; ++i) {
+    if (bytes[i] != 0) return false;
+  }
+  return true;
+}
+
+bool rowFails(const TestCall& call, const std::vector<Value>& values) {
+  const int width = valueOf(call, values, Role::kRegion).size.width;
+  std::size_t image = 0;
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    const Argument& a = call.function.arguments[i];
+    if (registry::isImage(a.role)) image = i;
+    if (a.role != Role::kStep) continue;
+    const Argument& of = call.function.arguments[image];
+    std::int64_t pixels = width;
+    if (of.role != Role::kDestination) {
+      const std::size_t mask = call.find(Role::kMaskSize);
+      pixels += (mask == TestCall::npos ? 3 : values[mask].size.width) - 1;
+    }
+    const std::size_t pixel =
+        registry::bytesOf(of.type) * static_cast<std::size_t>(pixelSamples(of.layout));
+    if (values[i].i < pixels * static_cast<std::int64_t>(pixel)) return true;
+  }
+  return false;
+}
+
+bool spanFails(const TestCall& call, const std::vector<Value>& values) {
+  const Kel32f least = static_cast<Kel32f>(valueOf(call, values, Role::kRangeMin).f);
+  const Kel32f most = static_cast<Kel32f>(valueOf(call, values, Role::kRangeMax).f);
+  return !(most - least > 0);
+}
+
 bool fails(const TestCall& call, const std::vector<Value>& values, Check check, bool lateValues) {
+  const auto number = [&](Role role) { return valueOf(call, values, role).i; };
   switch (check) {
     case Check::kNull:
       return nullAmong(call, values, false) || (!lateValues && nullAmong(call, values, true));
@@ -251,6 +185,32 @@ bool fails(const TestCall& call, const std::vector<Value>& values, Check check, 
       return rangeFails(call, values, false);
     case Check::kEpsilon:
       return anyOf(call, Role::kTolerance, [&](std::size_t i) { return !(values[i].f >= 0); });
+    case Check::kSpan:
+      return spanFails(call, values);
+    case Check::kBits:
+      return number(Role::kBitOffset) < 0 || number(Role::kBitOffset) > 7;
+    case Check::kBorders:
+      return bordersFail(call, values);
+    case Check::kMaskSize:
+      return isEmpty(valueOf(call, values, Role::kMaskSize).size);
+    case Check::kBoxSize: {
+      const KeliSize mask = valueOf(call, values, Role::kMaskSize).size;
+      return mask.width < 2 || mask.height < 2;
+    }
+    case Check::kAnchor:
+      return anchorFails(call, values);
+    case Check::kElement:
+      return elementFails(call, values);
+    case Check::kRow:
+      return rowFails(call, values);
+    case Check::kAxis:
+      return number(Role::kAxis) < 0 || number(Role::kAxis) > 2;
+    case Check::kSizes:
+      return remapSizesFail(call, values);
+    case Check::kInterpolation: {
+      const std::int64_t mode = number(Role::kInterpolation);
+      return mode != 1 && mode != 2 && mode != 4;
+    }
     case Check::kChannels:
       return channelStatus(call, values) != 0;
     case Check::kLevels:
@@ -269,6 +229,8 @@ KelStatus codeOf(Check check) {
     case Check::kWidth:
     case Check::kArea:
     case Check::kSize:
+    case Check::kBorders:
+    case Check::kSizes:
       return -6;
     case Check::kDivisor:
       return -10;
@@ -281,7 +243,23 @@ KelStatus codeOf(Check check) {
     case Check::kThresholds:
       return -18;
     case Check::kBounds:
+    case Check::kBits:
       return -7;
+    case Check::kSpan:
+      return -13;
+    case Check::kAxis:
+      return -21;
+    case Check::kInterpolation:
+      return -22;
+    case Check::kMaskSize:
+    case Check::kBoxSize:
+      return -33;
+    case Check::kAnchor:
+      return -34;
+    case Check::kRow:
+      return -37;
+    case Check::kElement:
+      return -59;
     case Check::kEpsilon:
       return -36;
     case Check::kLevels:

@@ -26,11 +26,11 @@ class ImageView {
   int channels() const { return channels_; }
   std::size_t sampleBytes() const { return bytes_; }
 
+  // Pixels before the first of the region are those left of it and above.
   std::uint8_t* at(int x, int y, int k) const {
-    std::uint8_t* const row = planes_[planar_ ? k : 0] + static_cast<std::size_t>(y) * step_;
-    const std::size_t sample =
-        static_cast<std::size_t>(x) * pixel_ + (planar_ ? 0 : static_cast<std::size_t>(k));
-    return row + sample * bytes_;
+    std::uint8_t* const row = planes_[planar_ ? k : 0] + y * static_cast<std::ptrdiff_t>(step_);
+    const std::ptrdiff_t sample = x * static_cast<std::ptrdiff_t>(pixel_) + (planar_ ? 0 : k);
+    return row + sample * static_cast<std::ptrdiff_t>(bytes_);
   }
 
   template <class T>

@@ -101,7 +101,7 @@ void checkCalls(const registry::Function& f, std::size_t calls, const Prepare& p
       const KelStatus status = call.run().status;
       ASSERT_EQ(status, expectedStatus(expected, KeliSize{width, 2})) << f.name;
       fill(expected, KeliSize{width, 2});
-      ASSERT_EQ(call.samples(call.written()), expected.samples(expected.written()))
+      ASSERT_EQ(call.region(call.written()), expected.region(expected.written()))
           << f.name << " " << targetName(target) << " width " << width << " call " << i;
     }
   }

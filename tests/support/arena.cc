@@ -6,8 +6,40 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
+#include <vector>
 
 namespace keli::test {
+namespace {
+
+class ArenaPool {
+ public:
+  std::shared_ptr<Arena> get(std::size_t count) {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    for (std::size_t i = 0; i < free_.size(); ++i) {
+      if (free_[i]->size() >= count && free_[i]->size() <= 4 * count + 16384) {
+        Arena* found = free_[i].release();
+        free_.erase(free_.begin() + static_cast<std::ptrdiff_t>(i));
+        return wrap(found);
+      }
+    }
+    return wrap(new Arena(count));
+  }
+
+ private:
+  std::shared_ptr<Arena> wrap(Arena* arena) {
+    return {arena, [this](Arena* a) {
+              const std::lock_guard<std::mutex> lock(mutex_);
+              free_.emplace_back(a);
+              if (free_.size() > 32) free_.erase(free_.begin());
+            }};
+  }
+
+  std::mutex mutex_;
+  std::vector<std::unique_ptr<Arena>> free_;
+};
+
+}  // namespace
 
 Arena::Arena(std::size_t count) {
   const std::size_t page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
@@ -24,6 +56,11 @@ Arena::Arena(std::size_t count) {
 }
 
 Arena::~Arena() { munmap(mapping_, size_ + 2 * static_cast<std::size_t>(data_ - mapping_)); }
+
+std::shared_ptr<Arena> borrowArena(std::size_t count) {
+  static ArenaPool* const arenas = new ArenaPool;
+  return arenas->get(count);
+}
 
 std::uint64_t runSeed() {
   static const std::uint64_t seed = [] {

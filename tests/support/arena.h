@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 
 namespace keli::test {
 
@@ -24,6 +25,9 @@ class Arena {
   std::uint8_t* data_;
   std::size_t size_;
 };
+
+// An arena of at least count bytes, whose memory later ones use again: mapping it is slow.
+std::shared_ptr<Arena> borrowArena(std::size_t count);
 
 // Of this run: from the environment variable KELI_TEST_SEED or the clock; printed once.
 std::uint64_t runSeed();

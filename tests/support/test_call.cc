@@ -3,7 +3,6 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
-#include <mutex>
 
 namespace keli::test {
 
@@ -17,137 +16,12 @@ namespace {
 // Larger arenas hold sparse images: they are neither filled nor compared as a whole.
 constexpr std::size_t kWatchedBytes = std::size_t{1} << 26;
 
-template <class T>
-void fillIntegers(std::uint8_t* p, std::size_t count, Random& random) {
-  constexpr T kExtremes[] = {std::numeric_limits<T>::min(), std::numeric_limits<T>::max(), T{0},
-                             T{1}};
-  for (std::size_t i = 0; i < count; ++i) {
-    const std::uint64_t r = random();
-    const T v = (r & 7) == 0 ? kExtremes[(r >> 3) & 3] : static_cast<T>(r >> 5);
-    std::memcpy(p + i * sizeof(T), &v, sizeof(T));
-  }
-}
-
-template <class T>
-void fillFloats(std::uint8_t* p, std::size_t count, Random& random) {
-  using L = std::numeric_limits<T>;
-  const T kSpecials[] = {T{0},           -T{0},           L::infinity(), -L::infinity(),
-                         L::quiet_NaN(), L::denorm_min(), L::max(),      -L::max()};
-  for (std::size_t i = 0; i < count; ++i) {
-    const std::uint64_t r = random();
-    const T v = (r & 15) == 0 ? kSpecials[(r >> 4) & 7]
-                              : static_cast<T>(static_cast<std::int32_t>(r >> 20)) / 4096;
-    std::memcpy(p + i * sizeof(T), &v, sizeof(T));
-  }
-}
-
-// Makes most counts of bits such as move something.
-void keepSmall(std::uint8_t* counts, int length, Random& random) {
-  for (int k = 0; k < std::max(length, 1); ++k) {
-    const std::uint32_t count = static_cast<std::uint32_t>(pick(random, 36));
-    if (pick(random, 4) != 0) std::memcpy(counts + 4 * k, &count, sizeof(count));
-  }
-}
-
-bool isFloating(Type type) {
-  return type == Type::k32f || type == Type::k64f || type == Type::k32fc;
-}
-
-// Zero of its type, a negative one included.
-bool isZero(Type type, const std::uint8_t* sample) {
-  const std::size_t bytes = registry::bytesOf(type);
-  const std::size_t sign = type == Type::k64f ? 7 : 3;  // the byte that holds it
-  for (std::size_t i = 0; i < bytes; ++i) {
-    const bool signs = isFloating(type) && i % 8 % (sign + 1) == sign;
-    if ((sample[i] & (signs ? 0x7F : 0xFF)) != 0) return false;
-  }
-  return true;
-}
-
-template <class T>
-bool isInner(const std::uint8_t* low, const std::uint8_t* high) {
-  T a, b;
-  std::memcpy(&a, low, sizeof(T));
-  std::memcpy(&b, high, sizeof(T));
-  return a > std::numeric_limits<T>::lowest() && a <= b && b < std::numeric_limits<T>::max();
-}
-
-bool isInnerRange(Type type, const std::uint8_t* low, const std::uint8_t* high) {
-  return type == Type::k8u    ? isInner<Kel8u>(low, high)
-         : type == Type::k16s ? isInner<Kel16s>(low, high)
-                              : isInner<Kel32f>(low, high);
-}
-
-// Arenas are kept for further calls: mapping memory is slow.
-class ArenaPool {
- public:
-  std::shared_ptr<Arena> get(std::size_t count) {
-    const std::lock_guard<std::mutex> lock(mutex_);
-    for (std::size_t i = 0; i < free_.size(); ++i) {
-      if (free_[i]->size() >= count && free_[i]->size() <= 4 * count + 16384) {
-        Arena* found = free_[i].release();
-        free_.erase(free_.begin() + static_cast<std::ptrdiff_t>(i));
-        return wrap(found);
-      }
-    }
-    return wrap(new Arena(count));
-  }
-
- private:
-  std::shared_ptr<Arena> wrap(Arena* arena) {
-    return {arena, [this](Arena* a) {
-              const std::lock_guard<std::mutex> lock(mutex_);
-              free_.emplace_back(a);
-              if (free_.size() > 32) free_.erase(free_.begin());
-            }};
-  }
-
-  std::mutex mutex_;
-  std::vector<std::unique_ptr<Arena>> free_;
-};
-
-ArenaPool& pool() {
-  static ArenaPool* const arenas = new ArenaPool;
-  return *arenas;
-}
-
 // Functions that use steps rounded down to whole samples.
 bool stepsByWholeSamples(const registry::Function& function) {
   return std::string(function.name) == "keliSqrt_32f_C1R";
 }
 
 }  // namespace
-
-void fillSamples(Type type, std::uint8_t* p, std::size_t count, Random& random) {
-  switch (type) {
-    case Type::k8u:
-      return fillIntegers<Kel8u>(p, count, random);
-    case Type::k8s:
-      return fillIntegers<Kel8s>(p, count, random);
-    case Type::k16u:
-      return fillIntegers<Kel16u>(p, count, random);
-    case Type::k16s:
-      return fillIntegers<Kel16s>(p, count, random);
-    case Type::k32u:
-      return fillIntegers<std::uint32_t>(p, count, random);
-    case Type::k32s:
-      return fillIntegers<Kel32s>(p, count, random);
-    case Type::k64s:
-      return fillIntegers<Kel64s>(p, count, random);
-    case Type::k32f:
-      return fillFloats<Kel32f>(p, count, random);
-    case Type::k64f:
-      return fillFloats<Kel64f>(p, count, random);
-    case Type::k16sc:
-      return fillIntegers<Kel16s>(p, 2 * count, random);
-    case Type::k32sc:
-      return fillIntegers<Kel32s>(p, 2 * count, random);
-    case Type::k32fc:
-      return fillFloats<Kel32f>(p, 2 * count, random);
-    case Type::kNone:
-      return;
-  }
-}
 
 bool checks(const registry::Function& f, registry::Check check) {
   for (const registry::Check made : f.entry->checks) {
@@ -158,6 +32,8 @@ bool checks(const registry::Function& f, registry::Check check) {
 
 TestCall::TestCall(const registry::Function& f, const Geometry& g, std::uint64_t seed)
     : function(f), values(f.arguments.size), size_{g.width, g.height}, imageAt_(f.arguments.size) {
+  chooseWindow(Random(seed + 1));
+  chooseSource(Random(seed + 2));
   Random random(seed);
   for (int& count : levelCounts_) count = 2 + static_cast<int>(pick(random, 40));
   for (std::size_t i = 0; i < f.arguments.size; ++i) {
@@ -177,6 +53,45 @@ TestCall::TestCall(const registry::Function& f, const Geometry& g, std::uint64_t
         break;
       case Role::kRegion:
         v.size = size_;
+        break;
+      case Role::kSourceRegion:
+        v.size = sourceSize_;
+        break;
+      case Role::kSourceRect:
+        v.rect = sourceRect_;
+        break;
+      case Role::kTopBorder:
+        v.i = border_.y;
+        break;
+      case Role::kLeftBorder:
+        v.i = border_.x;
+        break;
+      case Role::kMaskSize:
+        v.size = window_.mask;
+        break;
+      case Role::kAnchor:
+        v.point = window_.anchor;
+        break;
+      case Role::kElement:
+        addElement(i, g, random);
+        break;
+      case Role::kAxis:
+        v.i = order[0];
+        break;
+      case Role::kInterpolation:
+        v.i = std::int64_t{1} << order[0];
+        break;
+      case Role::kRoundMode:
+        v.i = order[0];
+        break;
+      case Role::kBitOffset:
+        v.i = bitOffset_;
+        break;
+      case Role::kRangeMin:
+        v.f = order[0] * 100 - 50;
+        break;
+      case Role::kRangeMax:
+        v.f = 200 + order[0];
         break;
       case Role::kConstant:
       case Role::kShift:
@@ -223,119 +138,92 @@ TestCall::TestCall(const registry::Function& f, const Geometry& g, std::uint64_t
   remember();
 }
 
-// Values of channels; those of a range's ends are in order, and short of the type's extremes.
-void TestCall::addConstants(std::size_t i, const Geometry& g, Random& random) {
-  const Argument& a = function.arguments[i];
-  const std::size_t bytes = registry::bytesOf(a.type);
-  const std::size_t count = static_cast<std::size_t>(std::max(a.length, 1));
-  std::uint8_t constant[4 * 8] = {};
-  fillSamples(a.type, constant, count, random);
-  if (a.role == Role::kShift) keepSmall(constant, a.length, random);
-  for (std::size_t k = 0; checks(function, registry::Check::kDivisor) && k < 4; ++k) {
-    while (isZero(a.type, constant + k * bytes))
-      fillSamples(a.type, constant + k * bytes, 1, random);
-  }
-  for (std::size_t k = 0; a.role == Role::kLower && k < count; ++k) {
-    do {
-      fillSamples(a.type, constant + k * bytes, 1, random);
-      fillSamples(a.type, upper_ + k * bytes, 1, random);
-    } while (!isInnerRange(a.type, constant + k * bytes, upper_ + k * bytes));
-  }
-  if (a.role == Role::kUpper) std::memcpy(constant, upper_, sizeof(constant));
-  if (a.length != 0) {
-    addArray(i, count * bytes, g, constant);
-  } else if (a.type == Type::k32f) {
-    Kel32f sample;
-    std::memcpy(&sample, constant, sizeof(sample));
-    values[i].f = sample;
-  } else {
-    std::memcpy(&values[i], constant, bytes);
-  }
-}
-
-void TestCall::addNumbers(std::size_t i, const Geometry& g, const int (&numbers)[4]) {
-  const int length = function.arguments[i].length;
-  if (length != 0) {
-    addArray(i, static_cast<std::size_t>(length) * sizeof(int), g, numbers);
-  } else {
-    values[i].i = numbers[0];
-  }
-}
-
-void TestCall::addResult(std::size_t i, std::size_t count, const Geometry& g) {
-  const std::vector<std::uint8_t> before(count, 0x5A);
-  results_.push_back({addArray(i, count, g, before.data()), count});
-}
-
-// Histograms and levels of each channel; levels rise from some point within the type's range.
-void TestCall::addPerChannel(std::size_t i, const Geometry& g, Random& random) {
-  const Argument& a = function.arguments[i];
-  auto arrays = std::make_unique<const void*[]>(4);
-  for (int k = 0; k < std::max(a.length, 1); ++k) {
-    const std::size_t levels = static_cast<std::size_t>(levelCounts_[k]);
-    if (a.role == Role::kLevels) {
-      std::vector<Kel32s> whole;
-      std::vector<Kel32f> real;
-      Kel32s level = static_cast<Kel32s>(pick(random, 60)) - 20;
-      for (std::size_t j = 0; j < levels; ++j, level += 1 + static_cast<Kel32s>(pick(random, 9))) {
-        whole.push_back(level);
-        real.push_back(static_cast<Kel32f>(level) * 100);
-      }
-      const void* const data =
-          a.type == Type::k32f ? static_cast<const void*>(real.data()) : whole.data();
-      addArray(i, levels * 4, g, data);
-    } else {
-      addResult(i, 4 * (levels - (a.role == Role::kCounts ? 1 : 0)), g);
-    }
-    arrays[static_cast<std::size_t>(k)] = values[i].p;
-  }
-  if (a.length == 0) return;
-  values[i].p = arrays.get();
-  planeArrays_.push_back(std::move(arrays));
-}
-
 std::uint8_t* TestCall::place(std::size_t count, const Geometry& g) {
-  arenas_.push_back(pool().get(count + 256));
+  arenas_.push_back(borrowArena(count + 256));
   const Arena& arena = *arenas_.back();
   // What lies around images differs from call to call, and their samples do not.
   static Random* const around = new Random(runSeed());
   if (arena.size() <= kWatchedBytes) {
-    fillIntegers<std::uint64_t>(arena.begin(), arena.size() / 8, *around);
+    fillSamples(Type::k64s, arena.begin(), arena.size() / 8, *around);
   }
   if (g.place == Place::kStart) return arena.begin();
   if (g.place == Place::kEnd) return arena.end() - count;
   return arena.begin() + 128 + g.offset;
 }
 
-void TestCall::addImage(std::size_t i, const Geometry& g, Random& random) {
+// Masks of many shapes, often of those that have kernels of their own. The same for the same seed,
+// whatever the arguments are.
+void TestCall::chooseWindow(Random random) {
+  if (function.reach == registry::Reach::k3x3) window_ = {{3, 3}, {1, 1}};
+  if (function.reach != registry::Reach::kMask) return;
+  const bool box = checks(function, registry::Check::kBoxSize);
+  const auto side = [&] { return static_cast<int>(1 + (box ? 1 : 0) + pick(random, 7)); };
+  const std::size_t kind = pick(random, 4);
+  KeliSize& mask = window_.mask;
+  mask = kind == 0 ? KeliSize{3, 3} : kind == 1 ? KeliSize{5, 5} : KeliSize{side(), side()};
+  const auto within = [&](int count) {
+    return static_cast<int>(pick(random, static_cast<std::size_t>(count)));
+  };
+  window_.anchor = {within(mask.width), within(mask.height)};
+}
+
+// A source of another size than the destination, and where it goes. With borders it lies within the
+// destination.
+void TestCall::chooseSource(Random random) {
+  const auto upTo = [&](int most) {
+    return 1 + static_cast<int>(pick(random, static_cast<std::size_t>(most)));
+  };
+  const bool within = find(Role::kTopBorder) != npos;
+  bitOffset_ = upTo(8) - 1;
+  sourceSize_ =
+      within ? KeliSize{upTo(size_.width), upTo(size_.height)} : KeliSize{upTo(40), upTo(40)};
+  if (within) {
+    border_.x = upTo(size_.width - sourceSize_.width + 1) - 1;
+    border_.y = upTo(size_.height - sourceSize_.height + 1) - 1;
+  }
+  sourceRect_.width = upTo(sourceSize_.width);
+  sourceRect_.height = upTo(sourceSize_.height);
+  sourceRect_.x = upTo(sourceSize_.width - sourceRect_.width + 1) - 1;
+  sourceRect_.y = upTo(sourceSize_.height - sourceRect_.height + 1) - 1;
+}
+
+TestCall::Image TestCall::shapeOf(std::size_t i, const Geometry& g) const {
   const Argument& a = function.arguments[i];
   const bool channel = a.role == Role::kSourceChannel || a.role == Role::kDestinationChannel;
   const std::size_t sample = registry::bytesOf(a.type);
-  const std::size_t width = static_cast<std::size_t>(g.width);
-  Image image;
+  Image image = {};
   image.argument = i;
+  image.region = a.role == Role::kSource && find(Role::kSourceRegion) != npos ? sourceSize_ : size_;
+  if (a.role == Role::kSource || a.role == Role::kInOut) image.around = window_;
   image.pixel = sample * static_cast<std::size_t>(pixelSamples(a.layout));
   image.used = isPlanar(a.layout) || channel
                    ? sample
                    : sample * static_cast<std::size_t>(usedChannels(a.layout));
+  std::size_t width = static_cast<std::size_t>(image.region.width);
+  if (a.type == Type::k1u) width = (width + static_cast<std::size_t>(bitOffset_) + 7) / 8;
+  const std::size_t all = width + static_cast<std::size_t>(image.around.mask.width) - 1;
   image.rowBytes = channel ? (width - 1) * image.pixel + sample : width * image.pixel;
-  image.step = width * image.pixel + static_cast<std::size_t>(g.padding);
+  image.step = all * image.pixel + static_cast<std::size_t>(g.padding);
   if (stepsByWholeSamples(function)) image.step -= image.step % sample;
+  image.inset = static_cast<std::size_t>(image.around.anchor.y) * image.step +
+                static_cast<std::size_t>(image.around.anchor.x) * image.pixel;
+  return image;
+}
+
+void TestCall::addImage(std::size_t i, const Geometry& g, Random& random) {
+  const Argument& a = function.arguments[i];
+  imageAt_[i] = images_.size();
+  images_.push_back(shapeOf(i, g));
+  Image& image = images_.back();
+  const std::size_t beside = static_cast<std::size_t>(image.around.mask.width - 1) * image.pixel;
+  const std::size_t rows =
+      static_cast<std::size_t>(image.region.height + image.around.mask.height - 1);
   const int planes = isPlanar(a.layout) ? usedChannels(a.layout) : 1;
   for (int k = 0; k < planes; ++k) {
-    const std::size_t height = static_cast<std::size_t>(g.height);
-    std::uint8_t* p = place((height - 1) * image.step + image.rowBytes, g);
-    image.planes.push_back(p);
-    for (std::size_t y = 0; y < height; ++y) {
-      std::uint8_t* row = p + y * image.step;
-      fillSamples(a.type, row, image.rowBytes / sample, random);
-      if (a.role != Role::kMask) continue;
-      // Masks have runs of nothing and of something.
-      for (std::size_t x = 0; x < width; ++x) {
-        if (x / 24 % 3 == 0) row[x] = 0;
-        if (x / 24 % 3 == 1 && row[x] == 0) row[x] = 255;
-      }
-    }
+    std::uint8_t* const p = place((rows - 1) * image.step + image.rowBytes + beside, g);
+    for (std::size_t y = 0; y < rows; ++y)
+      fillRow(image, p + y * image.step, image.rowBytes + beside, random);
+    image.planes.push_back(p + image.inset);
   }
   if (isPlanar(a.layout)) {
     planeArrays_.push_back(std::make_unique<const void*[]>(static_cast<std::size_t>(planes)));
@@ -345,8 +233,34 @@ void TestCall::addImage(std::size_t i, const Geometry& g, Random& random) {
   } else {
     values[i].p = image.planes[0];
   }
-  imageAt_[i] = images_.size();
-  images_.push_back(image);
+  if (a.role == Role::kInOutWithin) {
+    values[i].p = image.planes[0] + static_cast<std::size_t>(border_.y) * image.step +
+                  static_cast<std::size_t>(border_.x) * image.pixel;
+  }
+}
+
+void TestCall::fillRow(const Image& image, std::uint8_t* row, std::size_t rowBytes,
+                       Random& random) const {
+  const Argument& a = function.arguments[image.argument];
+  fillSamples(a.type, row, rowBytes / registry::bytesOf(a.type), random);
+  // Masks have runs of nothing and of something.
+  for (std::size_t x = 0; a.role == Role::kMask && x < rowBytes; ++x) {
+    if (x / 24 % 3 == 0) row[x] = 0;
+    if (x / 24 % 3 == 1 && row[x] == 0) row[x] = 255;
+  }
+  if (a.role != Role::kMap) return;
+  // Coordinates lie on and around the source's part, on its pixels and between them.
+  const bool columns = find(Role::kMap) == image.argument;
+  const int first = columns ? sourceRect_.x : sourceRect_.y;
+  const int count = columns ? sourceRect_.width : sourceRect_.height;
+  for (std::size_t x = 0; x < rowBytes / sizeof(Kel32f); ++x) {
+    const std::uint64_t r = random();
+    Kel32f at = static_cast<Kel32f>(r >> 40) / (1 << 24) * static_cast<Kel32f>(count + 1) - 1;
+    if (r % 4 == 0) at = std::floor(at * 2) / 2;
+    at += static_cast<Kel32f>(first);
+    if (r % 32 == 1) at = std::nextafter(static_cast<Kel32f>(first + count - 1), HUGE_VALF);
+    if (r % 64 != 2) std::memcpy(row + x * sizeof(at), &at, sizeof(at));  // else any number
+  }
 }
 
 std::uint8_t* TestCall::addArray(std::size_t i, std::size_t count, const Geometry& g,
@@ -387,31 +301,68 @@ std::size_t TestCall::written() const {
 
 std::vector<std::uint8_t> TestCall::outcome() const {
   std::vector<std::uint8_t> all;
-  if (written() != npos) all = samples(written());
+  if (written() != npos) all = region(written());
   for (const Written& w : results_) all.insert(all.end(), w.data, w.data + w.size);
   return all;
 }
 
-std::vector<std::uint8_t> TestCall::samples(std::size_t argument) const {
+std::vector<TestCall::Area> TestCall::regionsOf(std::size_t argument) const {
   const Image& image = images_[imageAt_[argument]];
+  std::vector<Area> areas;
+  for (std::uint8_t* plane : image.planes)
+    areas.push_back({plane, image.rowBytes, static_cast<std::size_t>(image.region.height)});
+  return areas;
+}
+
+std::vector<TestCall::Area> TestCall::areasOf(std::size_t argument) const {
+  const Image& image = images_[imageAt_[argument]];
+  std::vector<Area> areas = regionsOf(argument);
+  for (Area& area : areas) {
+    area.data -= image.inset;
+    area.rowBytes += static_cast<std::size_t>(image.around.mask.width - 1) * image.pixel;
+    area.rows += static_cast<std::size_t>(image.around.mask.height - 1);
+  }
+  return areas;
+}
+
+namespace {
+
+template <class Areas>
+std::vector<std::uint8_t> read(const Areas& areas, std::size_t step) {
   std::vector<std::uint8_t> out;
-  for (const std::uint8_t* plane : image.planes) {
-    for (int y = 0; y < size_.height; ++y) {
-      const std::uint8_t* row = plane + static_cast<std::size_t>(y) * image.step;
-      out.insert(out.end(), row, row + image.rowBytes);
-    }
+  for (const auto& area : areas) {
+    for (std::size_t y = 0; y < area.rows; ++y)
+      out.insert(out.end(), area.data + y * step, area.data + y * step + area.rowBytes);
   }
   return out;
 }
 
-void TestCall::setSamples(std::size_t argument, const std::vector<std::uint8_t>& samples) {
-  const Image& image = images_[imageAt_[argument]];
+template <class Areas>
+void write(const Areas& areas, std::size_t step, const std::vector<std::uint8_t>& samples) {
   const std::uint8_t* from = samples.data();
-  for (std::uint8_t* plane : image.planes) {
-    for (int y = 0; y < size_.height; ++y, from += image.rowBytes) {
-      std::memcpy(plane + static_cast<std::size_t>(y) * image.step, from, image.rowBytes);
-    }
+  for (const auto& area : areas) {
+    for (std::size_t y = 0; y < area.rows; ++y, from += area.rowBytes)
+      std::memcpy(area.data + y * step, from, area.rowBytes);
   }
+}
+
+}  // namespace
+
+std::vector<std::uint8_t> TestCall::samples(std::size_t argument) const {
+  return read(areasOf(argument), stepOf(argument));
+}
+
+std::vector<std::uint8_t> TestCall::region(std::size_t argument) const {
+  return read(regionsOf(argument), stepOf(argument));
+}
+
+void TestCall::setSamples(std::size_t argument, const std::vector<std::uint8_t>& samples) {
+  write(areasOf(argument), stepOf(argument), samples);
+  remember();
+}
+
+void TestCall::setRegion(std::size_t argument, const std::vector<std::uint8_t>& samples) {
+  write(regionsOf(argument), stepOf(argument), samples);
   remember();
 }
 
@@ -433,7 +384,7 @@ bool TestCall::mayWrite(const std::uint8_t* p) const {
       if (p < plane) continue;
       const std::size_t at = static_cast<std::size_t>(p - plane);
       const std::size_t x = at % image.step;
-      if (at / image.step < static_cast<std::size_t>(size_.height) && x < image.rowBytes &&
+      if (at / image.step < static_cast<std::size_t>(image.region.height) && x < image.rowBytes &&
           x % image.pixel < image.used) {
         return true;
       }

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "registry/registry.h"
-#include "support/arena.h"
+#include "support/samples.h"
 
 namespace keli::test {
 
@@ -22,6 +22,15 @@ struct Geometry {
   int padding = 0;  // bytes between rows
   Place place = Place::kMiddle;
   int offset = 0;  // bytes from an aligned address, for kMiddle
+};
+
+// The mask of a neighbourhood, and how far beyond the region it makes a function read.
+struct Window {
+  KeliSize mask = {1, 1};
+  KeliPoint anchor = {0, 0};
+
+  int right() const { return mask.width - 1 - anchor.x; }
+  int below() const { return mask.height - 1 - anchor.y; }
 };
 
 class TestCall {
@@ -53,9 +62,17 @@ class TestCall {
     return value;
   }
 
-  // The samples of an image, row after row without what lies between.
+  // The samples of an image, row after row without what lies between, with the pixels around the
+  // region that are read.
   std::vector<std::uint8_t> samples(std::size_t argument) const;
   void setSamples(std::size_t argument, const std::vector<std::uint8_t>& samples);
+  // Those of the region alone.
+  std::vector<std::uint8_t> region(std::size_t argument) const;
+  void setRegion(std::size_t argument, const std::vector<std::uint8_t>& samples);
+
+  const Window& window() const { return window_; }
+  // Of an image, without the pixels around the region.
+  KeliSize sizeOf(std::size_t argument) const { return images_[imageAt_[argument]].region; }
 
   // Empty if no byte has changed since construction (or since remember()) in any image or array but
   // those samples that the function may write; else what has changed.
@@ -67,14 +84,30 @@ class TestCall {
  private:
   struct Image {
     std::size_t argument;
-    std::vector<std::uint8_t*> planes;
+    std::vector<std::uint8_t*> planes;  // at the first pixel of the region
+    KeliSize region;
     std::size_t step;
     std::size_t pixel;     // bytes from one pixel to the next
     std::size_t used;      // bytes of a pixel that belong to the function
-    std::size_t rowBytes;  // from the first to the last byte of a row's pixels
+    std::size_t rowBytes;  // from the first to the last byte of a row's pixels in the region
+    Window around;         // what is read beside the region
+    std::size_t inset;     // bytes from the first pixel that is read to the region
+  };
+  // Rows of bytes with a step between them.
+  struct Area {
+    std::uint8_t* data;
+    std::size_t rowBytes;
+    std::size_t rows;
   };
 
+  void chooseWindow(Random random);
+  void chooseSource(Random random);
+  Image shapeOf(std::size_t argument, const Geometry& g) const;
+  std::vector<Area> regionsOf(std::size_t argument) const;
+  std::vector<Area> areasOf(std::size_t argument) const;
   void addImage(std::size_t argument, const Geometry& g, Random& random);
+  void fillRow(const Image& image, std::uint8_t* row, std::size_t rowBytes, Random& random) const;
+  void addElement(std::size_t argument, const Geometry& g, Random& random);
   std::uint8_t* addArray(std::size_t argument, std::size_t count, const Geometry& g,
                          const void* data);
   void addConstants(std::size_t argument, const Geometry& g, Random& random);
@@ -86,6 +119,11 @@ class TestCall {
   std::string changes(bool all) const;
 
   KeliSize size_;
+  Window window_;
+  KeliSize sourceSize_;
+  KeliRect sourceRect_;
+  KeliPoint border_ = {0, 0};
+  int bitOffset_ = 0;
   std::vector<Image> images_;
   std::vector<std::size_t> imageAt_;  // by argument
   std::vector<std::shared_ptr<Arena>> arenas_;
@@ -102,8 +140,5 @@ class TestCall {
 
 // Whether the function's entry names a check.
 bool checks(const registry::Function& function, registry::Check check);
-
-// Random samples, every now and then an extreme or special one.
-void fillSamples(registry::Type type, std::uint8_t* p, std::size_t count, Random& random);
 
 }  // namespace keli::test
