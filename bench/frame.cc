@@ -15,139 +15,6 @@ using registry::Role;
 using registry::Type;
 using registry::Value;
 
-namespace {
-
-// The library allocates by sample size; which type of that size does not matter.
-const char* allocatedType(std::size_t sampleBytes) {
-  return sampleBytes == 1 ? "8u" : sampleBytes == 2 ? "16u" : sampleBytes == 4 ? "32s" : "32fc";
-}
-
-std::uint64_t nextRandom(std::uint64_t* state) {
-  std::uint64_t x = *state;
-  x ^= x << 13;
-  x ^= x >> 7;
-  x ^= x << 17;
-  return *state = x;
-}
-
-// Values of a lattice at the corners of cells, uniform in 0..1.
-double latticeValue(std::uint64_t seed, int x, int y) {
-  std::uint64_t state = seed ^ (std::uint64_t{0x9E3779B97F4A7C15} * (x + 1)) ^
-                        (std::uint64_t{0xC2B2AE3D27D4EB4F} * (y + 1));
-  nextRandom(&state);
-  return static_cast<double>(nextRandom(&state) >> 11) / 9007199254740992.0;
-}
-
-// Calls body(x, y, value) for all pixels, with values between those of the corners of cells of so
-// many pixels.
-template <int kCell, class Body>
-void forLattice(std::uint64_t seed, Size size, const Body& body) {
-  for (int y = 0; y < size.height; ++y) {
-    const double fy = static_cast<double>(y % kCell) / kCell;
-    double left = 0;
-    double right = 0;
-    for (int x = 0; x < size.width; ++x) {
-      if (x % kCell == 0) {
-        const auto column = [&](int i) {
-          return (1 - fy) * latticeValue(seed, x / kCell + i, y / kCell) +
-                 fy * latticeValue(seed, x / kCell + i, y / kCell + 1);
-        };
-        left = column(0);
-        right = column(1);
-      }
-      const double fx = static_cast<double>(x % kCell) / kCell;
-      body(x, y, (1 - fx) * left + fx * right);
-    }
-  }
-}
-
-// The ends of the values that samples take, the upper one excluded.
-double leastSample(Type type) { return type == Type::k16s ? -32768 : 0; }
-double mostSample(Type type, const Choices& choices) {
-  return type == Type::k16s ? 32768 : isFloating(type) ? choices.most : 256;
-}
-
-}  // namespace
-
-std::string nameOf(Size size) {
-  std::string name = std::to_string(size.width) + "x" + std::to_string(size.height);
-  return size.padding == 0 ? name : name + "+" + std::to_string(size.padding);
-}
-
-Image::Image(Type type, Layout layout, Size size) : type_(type), layout_(layout), size_(size) {
-  const std::string allocator = std::string("keliMalloc_") + allocatedType(bytesOf(type)) + "_C" +
-                                std::to_string(pixelSamples(layout));
-  const registry::Function* function = registry::find(allocator);
-  if (function == nullptr) throw std::runtime_error("no allocator " + allocator);
-  Value arguments[3];
-  arguments[0].i = size.width + size.padding;
-  arguments[1].i = std::int64_t{size.height} * planes();
-  arguments[2].p = &step_;
-  memory_.reset(const_cast<void*>((*function)(arguments).pointer));
-  if (memory_ == nullptr) throw std::runtime_error("no memory for an image of " + nameOf(size));
-}
-
-std::uint8_t* Image::plane(int index) const {
-  return static_cast<std::uint8_t*>(memory_.get()) +
-         static_cast<std::size_t>(step_) * size_.height * index;
-}
-
-Block Image::block() const {
-  const std::size_t rowBytes = bytesOf(type_) * samplesPerPixel() * size_.width;
-  const std::size_t step = step_;
-  const std::size_t rows = static_cast<std::size_t>(size_.height) * planes();
-  if (rowBytes == step) return {data(), rowBytes * rows, rowBytes * rows, 1};
-  return {data(), rowBytes, step, rows};
-}
-
-// Integer samples take any value; floating ones lie in 0..most, so that no operation meets a NaN,
-// an infinity or a denormal number by accident.
-void Image::fillPattern(std::uint64_t seed, const Choices& choices) const {
-  std::uint64_t state = seed * 0x9E3779B97F4A7C15 + 1;
-  const std::size_t bytes = static_cast<std::size_t>(step_) * size_.height * planes();
-  if (!isFloating(type_)) {
-    for (std::size_t i = 0; i < bytes; i += 8) {
-      const std::uint64_t word = nextRandom(&state) | (choices.odd ? 0x0101010101010101 : 0);
-      std::memcpy(data() + i, &word, 8);
-    }
-    return;
-  }
-  withComponent(type_, [&](auto component) {
-    for (std::size_t i = 0; i < bytes; i += sizeof(component)) {
-      component = static_cast<decltype(component)>(static_cast<double>(nextRandom(&state) >> 40) *
-                                                   choices.most / (1 << 24));
-      std::memcpy(data() + i, &component, sizeof(component));
-    }
-  });
-}
-
-void Image::fillBytes(std::uint8_t value) const {
-  std::memset(data(), value, static_cast<std::size_t>(step_) * size_.height * planes());
-}
-
-// Runs of both values as in real masks.
-void Image::fillBlobs(std::uint64_t seed) const {
-  forLattice<16>(seed, size_, [&](int x, int y, double value) {
-    data()[static_cast<std::size_t>(step_) * y + x] = value >= 0.5 ? 255 : 0;
-  });
-}
-
-// Every channel another landscape, with noise of up to 1 % of the range of values: a fifth of the
-// bytes equal the next, as in the photographs of examples/images.
-void Image::fillPhotograph(std::uint64_t seed, const Choices& choices) const {
-  const double least = leastSample(type_), range = mostSample(type_, choices) - least;
-  const int samples = samplesPerPixel();
-  std::uint64_t noise = seed;
-  for (int k = 0; k < samples; ++k) {
-    forLattice<64>(
-        seed + 10 * static_cast<std::uint64_t>(k), size_, [&](int x, int y, double value) {
-          value = 0.99 * value + 0.01 * static_cast<double>(nextRandom(&noise) >> 40) / (1 << 24);
-          storeSample(type_, data() + static_cast<std::size_t>(step_) * y,
-                      static_cast<std::size_t>(samples) * x + k, std::floor(least + range * value));
-        });
-  }
-}
-
 Frame::Frame(const registry::Function& function, Size size, const Choices& choices)
     : function_(function), size_(size), choices_(choices) {
   for (const Argument& argument : function.arguments) addArgument(argument);
@@ -164,8 +31,51 @@ void Frame::resetDestination() const {
   }
 }
 
+bool Frame::takes(Role role) const {
+  for (const Argument& a : function_.arguments) {
+    if (a.role == role) return true;
+  }
+  return false;
+}
+
+// Of sources whose borders are made, what is left of the row's size.
+Size Frame::sizeOf(const Argument& argument) const {
+  if (argument.role != Role::kSource || !takes(Role::kTopBorder)) return size_;
+  return {size_.width - 2 * choices_.border, size_.height - 2 * choices_.border, size_.padding};
+}
+
+// What filters read beside the region.
+Margin Frame::marginOf(const Argument& argument) const {
+  if (argument.role != Role::kSource && argument.role != Role::kInOut) return {};
+  const KeliSize mask = choices_.mask;
+  switch (function_.reach) {
+    case registry::Reach::k3x3:
+      return {1, 1, 1, 1};
+    case registry::Reach::kMask:
+      return {mask.width / 2, mask.height / 2, mask.width - 1 - mask.width / 2,
+              mask.height - 1 - mask.height / 2};
+    default:
+      return {};
+  }
+}
+
+void Frame::addElement() {
+  const int width = choices_.mask.width, height = choices_.mask.height;
+  auto* const mask = static_cast<std::uint8_t*>(addArray((std::size_t(width) * height + 7) / 8));
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) {
+      const double u = (2.0 * x + 1) / width - 1, v = (2.0 * y + 1) / height - 1;
+      mask[y * width + x] = choices_.element == Element::kAll || u * u + v * v <= 1;
+    }
+  }
+  Value value;
+  value.p = mask;
+  values_.push_back(value);
+}
+
 void Frame::addImage(const Argument& argument) {
-  auto image = std::make_unique<Image>(argument.type, argument.layout, size_);
+  auto image =
+      std::make_unique<Image>(argument.type, argument.layout, sizeOf(argument), marginOf(argument));
   lastStep_ = image->step();
   const bool oneChannel =
       argument.role == Role::kSourceChannel || argument.role == Role::kDestinationChannel;
@@ -181,8 +91,15 @@ void Frame::addImage(const Argument& argument) {
     value.p = planes.get();
     arrays_.push_back(std::move(planes));
   }
+  if (argument.role == Role::kInOutWithin) {
+    value.p = image->data() + image->step() * choices_.border +
+              bytesOf(argument.type) * image->samplesPerPixel() * choices_.border;
+  }
   values_.push_back(value);
-  if (argument.role == Role::kMask) {
+  if (argument.role == Role::kMap) {
+    image->fillMap(maps_.empty(), choices_.map);
+    maps_.push_back(std::move(image));
+  } else if (argument.role == Role::kMask) {
     image->fillBlobs(5);
     mask_ = std::move(image);
   } else if (isWritten(argument.role)) {
@@ -305,6 +222,43 @@ void Frame::addArgument(const Argument& argument) {
       break;
     case Role::kHint:
       value.i = choices_.hint;
+      break;
+    case Role::kElement:
+      return addElement();
+    case Role::kSourceRegion: {
+      const int border = takes(Role::kTopBorder) ? choices_.border : 0;
+      value.size = {size_.width - 2 * border, size_.height - 2 * border};
+      break;
+    }
+    case Role::kSourceRect:
+      value.rect = {0, 0, size_.width, size_.height};
+      break;
+    case Role::kTopBorder:
+    case Role::kLeftBorder:
+      value.i = choices_.border;
+      break;
+    case Role::kMaskSize:
+      value.size = choices_.mask;
+      break;
+    case Role::kAnchor:
+      value.point = {choices_.mask.width / 2, choices_.mask.height / 2};
+      break;
+    case Role::kAxis:
+      value.i = choices_.axis;
+      break;
+    case Role::kInterpolation:
+      value.i = choices_.interpolation;
+      break;
+    case Role::kRoundMode:
+      value.i = choices_.roundMode;
+      break;
+    case Role::kBitOffset:
+      value.i = choices_.bitOffset;
+      break;
+    case Role::kRangeMin:
+      break;
+    case Role::kRangeMax:
+      value.f = choices_.most;
       break;
     case Role::kStep:
       value.i = lastStep_;

@@ -126,19 +126,29 @@ void setThreads(int threads) {
 }
 
 // "keliAdd_8u_C1RSfs:3" with a scale factor of 3, "keliHistogramEven_8u_C1R:257:flat" with so many
-// levels over a flat image.
+// levels over a flat image, "keliFilterBox_8u_C1R:5x5", "keliRemap_8u_C1R:linear:random".
 std::string labelOf(const Entry& entry) {
   static constexpr const char* kRelations[] = {":less", ":lessEq", ":eq", ":greaterEq", ":greater"};
-  std::string label = entry.function->name;
+  static constexpr const char* kAxes[] = {":horizontal", ":vertical", ":both"};
+  static constexpr const char* kModes[] = {"", ":nearest", ":linear", "", ":cubic"};
+  std::string label = entry.function->name, random;
   const Choices& choices = entry.row->choices;
   for (const registry::Argument& a : entry.function->arguments) {
     if (a.role == registry::Role::kScaleFactor) label += ":" + std::to_string(choices.scaleFactor);
     if (a.role == registry::Role::kCompareOp) label += kRelations[choices.compareOp];
+    if (a.role == registry::Role::kMaskSize)
+      label += ":" + std::to_string(choices.mask.width) + "x" + std::to_string(choices.mask.height);
+    if (a.role == registry::Role::kElement && choices.element == Element::kAll) label += ":all";
+    if (a.role == registry::Role::kAxis) label += kAxes[choices.axis];
+    if (a.role == registry::Role::kInterpolation) label += kModes[choices.interpolation];
+    if (a.role == registry::Role::kMap && choices.map == Map::kRandom) random = ":random";
+    if (a.role == registry::Role::kRoundMode && choices.roundMode != kelRoundNearest)
+      label += ":zero";
     if (a.role == registry::Role::kLevelCount) label += ":" + std::to_string(choices.levels);
   }
   if (choices.content == Content::kPhotograph) label += ":photograph";
   if (choices.content == Content::kFlat) label += ":flat";
-  return label;
+  return label + random;
 }
 
 void registerAll(const std::vector<Entry>& rows, const Options& options) {

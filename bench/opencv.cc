@@ -31,8 +31,14 @@ int depthOf(registry::Type type) {
 }
 
 cv::Mat matOfDepth(const Image& image, int depth, int plane) {
-  return cv::Mat(image.height(), image.width(), CV_MAKETYPE(depth, image.samplesPerPixel()),
-                 image.plane(plane), image.step());
+  const Margin& m = image.margin();
+  const int type = CV_MAKETYPE(depth, image.samplesPerPixel());
+  std::uint8_t* const corner = image.plane(plane) -
+                               m.top * static_cast<std::ptrdiff_t>(image.step()) -
+                               m.left * static_cast<std::ptrdiff_t>(CV_ELEM_SIZE(type));
+  const cv::Mat all(image.height() + m.top + m.bottom, image.width() + m.left + m.right, type,
+                    corner, image.step());
+  return all(cv::Rect(m.left, m.top, image.width(), image.height()));
 }
 
 }  // namespace

@@ -9,7 +9,8 @@
 
 namespace keli::bench {
 
-// All channels of an interleaved image, or one plane of a planar one.
+// All channels of an interleaved image, or one plane of a planar one: the region, as a part of the
+// image with its margin.
 cv::Mat mat(const Image& image, int plane = 0);
 // Signed 16-bit samples as unsigned ones, for functions that only move samples and know no others.
 cv::Mat matOfBits(const Image& image);

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "choices.h"
 #include "registry/registry.h"
 
 namespace keli::bench {
@@ -62,6 +63,12 @@ inline double loadComponent(registry::Type type, const void* array, std::size_t 
                 sizeof(component));
     return static_cast<double>(component);
   });
+}
+
+// The ends of the values that samples take, the upper one excluded.
+inline double leastSample(registry::Type type) { return type == registry::Type::k16s ? -32768 : 0; }
+inline double mostSample(registry::Type type, const Choices& choices) {
+  return type == registry::Type::k16s ? 32768 : isFloating(type) ? choices.most : 256;
 }
 
 }  // namespace keli::bench
