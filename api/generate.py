@@ -6,6 +6,7 @@ one operation: members ("types : descriptors"), arguments in order, checks in or
 template that implements it and the documentation. From it come
 
   include/keli.h                 prototypes and documentation
+  include/keli_status.h          status codes
   src/<group>/exports.cc         exported functions: the checks, then one call of the frame
   src/registry/registry_data.cc  reflection data for tests, bench, tool and bindings
   docs/reference/<group>.md      the same documentation for reading and searching
@@ -53,13 +54,19 @@ def parallel_text(entry):
             + ", ".join(entry["parallel"]) + ".")
 
 
-def header(tables, statuses):
-    out = [f"/* keli: image-processing primitives. {NOTE} */", "#ifndef KELI_H", "#define KELI_H", "",
-           '#include "keli_types.h"', "", "#ifdef __cplusplus", 'extern "C" {', "#endif", "",
+def status_header(statuses):
+    out = [f"/* What the functions of keli return. {NOTE} */", "#ifndef KELI_STATUS_H",
+           "#define KELI_STATUS_H", "", "#include <stdint.h>", "",
            "/* Errors are negative, warnings positive. Nothing is written when an error is returned. */",
            "typedef int32_t KelStatus;", "enum {"]
     out += [f"  {s['name']} = {s['value']}, /* {s['text']} */" for s in statuses]
-    out += ["};"]
+    return "\n".join(out + ["};", "", "#endif", ""])
+
+
+def header(tables):
+    out = [f"/* keli: image-processing primitives. {NOTE} */", "#ifndef KELI_H", "#define KELI_H", "",
+           '#include "keli_status.h"', '#include "keli_types.h"', "", "#ifdef __cplusplus",
+           'extern "C" {', "#endif"]
     for table in tables:
         out += ["", f"/* ==== {table['title']} ==== */"]
         for entry in table["entry"]:
@@ -196,7 +203,8 @@ def reference(table):
 def main():
     tables = load()
     statuses = tomllib.loads((ROOT / "api/status.toml").read_text())["status"]
-    files = {"include/keli.h": header(tables, statuses),
+    files = {"include/keli.h": header(tables),
+             "include/keli_status.h": status_header(statuses),
              "src/registry/registry_data.cc": registry(tables, statuses)}
     for table in tables:
         files[f"src/{table['group']}/exports.cc"] = exports(table)

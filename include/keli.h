@@ -2,49 +2,12 @@
 #ifndef KELI_H
 #define KELI_H
 
+#include "keli_status.h"
 #include "keli_types.h"
 
 #ifdef __cplusplus
 extern "C" {
 #endif
-
-/* Errors are negative, warnings positive. Nothing is written when an error is returned. */
-typedef int32_t KelStatus;
-enum {
-  kelStatusOk = 0, /* success */
-  kelStatusWarning = 1, /* the operation did nothing */
-  kelStatusNegativeSqrtWarning = 3, /* the argument of a square root was negative in some pixel */
-  kelStatusDivByZeroWarning = 6, /* a division by zero occurred in some pixel; a substitute value was written */
-  kelStatusZeroLogWarning = 7, /* the argument of a logarithm was zero in some pixel */
-  kelStatusNegativeLogWarning = 8, /* the argument of a logarithm was negative in some pixel */
-  kelStatusNoMemoryInternal = -4, /* an internal work buffer could not be allocated */
-  kelStatusBadSize = -6, /* a width or height is less than 1 */
-  kelStatusBadRange = -7, /* a lower bound exceeds its upper bound, or a number lies outside its range */
-  kelStatusNullPointer = -8, /* a required pointer is null */
-  kelStatusNoMemory = -9, /* a temporary buffer could not be allocated */
-  kelStatusDivisorZero = -10, /* division by a constant that is zero */
-  kelStatusEmptyRange = -13, /* a value range whose maximum does not exceed its minimum */
-  kelStatusBadStep = -14, /* a step is less than 1 */
-  kelStatusBadOrder = -15, /* a transform order outside 0..30 */
-  kelStatusBadFlag = -16, /* a transform normalisation flag other than 1, 2, 4 or 8 */
-  kelStatusBadSpec = -17, /* a specification structure of another kind */
-  kelStatusBadThresholds = -18, /* the upper threshold is below the lower one */
-  kelStatusBadAxis = -21, /* a mirror axis other than 0, 1 or 2 */
-  kelStatusBadInterpolation = -22, /* an interpolation mode other than 1, 2 or 4 */
-  kelStatusBadResizeFactor = -23, /* a resize factor not greater than 0 */
-  kelStatusBadMaskSize = -33, /* a mask or kernel size too small */
-  kelStatusBadAnchor = -34, /* an anchor outside the mask */
-  kelStatusBadEpsilon = -36, /* a comparison tolerance that is not >= 0 */
-  kelStatusStepTooSmall = -37, /* a step shorter than the row it must hold */
-  kelStatusZeroDivisor = -51, /* an integer kernel divisor of 0 */
-  kelStatusBadLevelCount = -54, /* a number of output levels outside its range */
-  kelStatusBadNoise = -55, /* a noise percentage outside 0..100 */
-  kelStatusZeroMask = -59, /* a morphology mask whose bytes are all zero */
-  kelStatusBadChannelOrder = -60, /* a channel-order entry outside 0..2 */
-  kelStatusBadLevels = -106, /* fewer than 2 levels in a look-up table */
-  kelStatusBadHistogramLevels = -107, /* fewer than 2 levels in a histogram range */
-  kelStatusBadCompareOp = -9999, /* a comparison operation that the function does not know */
-};
 
 /* ==== Image memory, version ==== */
 
@@ -2922,6 +2885,57 @@ KELI_API KelStatus keliHistogramEven_16s_C1R(const Kel16s* pSrc, int srcStep, Ke
 KELI_API KelStatus keliHistogramEven_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], int* const pLevels[3], const int nLevels[3], const int lowerLevel[3], const int upperLevel[3]);
 KELI_API KelStatus keliHistogramEven_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* const pHist[4], int* const pLevels[4], const int nLevels[4], const int lowerLevel[4], const int upperLevel[4]);
 KELI_API KelStatus keliHistogramEven_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], int* const pLevels[3], const int nLevels[3], const int lowerLevel[3], const int upperLevel[3]);
+
+/* ==== Remap ==== */
+
+/**
+ * Builds an image from the values of another at coordinates that two maps give.
+ *
+ *     dst(x, y) = src(pxMap(x, y), pyMap(x, y))
+ *
+ * The maps are 32f images of dstRoiSize. Their coordinates are pixels of the whole source
+ * image, of srcSize, to whose first pixel pSrc points. Pixels whose coordinates lie outside
+ * srcROI, left of its first or beyond its last column or row, or are not numbers, keep their
+ * values; a srcROI that leaves the source image is cut to it. The interpolation:
+ *
+ * kelInterpolationNearest takes the pixel whose column and row are the coordinates rounded to
+ * the nearest integer, ties to even.
+ *
+ * kelInterpolationLinear blends the 2 x 2 pixels around the coordinates with the weights 1 - f
+ * and f of each fraction f, first along the rows. At the last column or row of srcROI the
+ * pixels are those before it, with f = 1; a region one pixel wide or high gives that pixel. 8u:
+ * the fractions are rounded to 14 bits, ties to even; what a row gives is cut to 6 bits behind
+ * the point; the result is rounded to the nearest integer, ties up. 32f: each multiplication
+ * and addition is rounded to single precision.
+ *
+ * kelInterpolationCubic blends the 4 x 4 pixels around the coordinates by the cubic convolution
+ * kernel with a = -1/2 (Catmull and Rom, 1974; Keys, 1981), first along the columns, each
+ * operation in single precision. Columns and rows outside srcROI are replaced by its nearest
+ * ones. 8u: rounded to the nearest integer, ties to even, and saturated.
+ *
+ * A source image one pixel wide or high is always sampled by the nearest pixel, and one with
+ * fewer than four columns or rows not cubically but linearly. Neighbours that are infinite or
+ * not numbers take part even at weight 0; results that are not numbers are the quiet NaN
+ * 0x7FC00000. AC4 leaves the fourth sample of every destination pixel as it was. The maps and
+ * the source must not overlap the destination.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if srcSize,
+ * srcROI or dstRoiSize is below 1 in width or height, or srcROI.x or srcROI.y is below 0;
+ * kelStatusBadInterpolation if interpolation is none of the modes; kelStatusBadStep if a step
+ * is below 1.
+ */
+KELI_API KelStatus keliRemap_8u_C1R(const Kel8u* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
+KELI_API KelStatus keliRemap_8u_C3R(const Kel8u* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
+KELI_API KelStatus keliRemap_8u_C4R(const Kel8u* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
+KELI_API KelStatus keliRemap_8u_AC4R(const Kel8u* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
+KELI_API KelStatus keliRemap_8u_P3R(const Kel8u* const pSrc[3], KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel8u* const pDst[3], int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
+KELI_API KelStatus keliRemap_8u_P4R(const Kel8u* const pSrc[4], KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel8u* const pDst[4], int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
+KELI_API KelStatus keliRemap_32f_C1R(const Kel32f* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
+KELI_API KelStatus keliRemap_32f_C3R(const Kel32f* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
+KELI_API KelStatus keliRemap_32f_C4R(const Kel32f* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
+KELI_API KelStatus keliRemap_32f_AC4R(const Kel32f* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
+KELI_API KelStatus keliRemap_32f_P3R(const Kel32f* const pSrc[3], KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* const pDst[3], int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
+KELI_API KelStatus keliRemap_32f_P4R(const Kel32f* const pSrc[4], KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* const pDst[4], int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
 
 #ifdef __cplusplus
 }

@@ -19,18 +19,46 @@ namespace {
 
 // More levels than this are refused: their arrays must not exhaust the memory.
 constexpr std::int64_t kMostLevels = 1 << 20;
+constexpr int kMostSide = 4096;  // of masks, likewise
 
 struct Word {
   const char* name;
   int value;
 };
-constexpr Word kComparisons[] = {{"less", kelCmpLess},
-                                 {"lessEq", kelCmpLessEq},
-                                 {"eq", kelCmpEq},
-                                 {"greaterEq", kelCmpGreaterEq},
-                                 {"greater", kelCmpGreater}};
-constexpr Word kHints[] = {
-    {"none", kelAlgHintNone}, {"fast", kelAlgHintFast}, {"accurate", kelAlgHintAccurate}};
+
+// The words for an argument of a role, in their order, and what is meant without any.
+struct Words {
+  Role role;
+  std::vector<Word> words;
+  int otherwise;
+};
+
+const Words* wordsFor(Role role) {
+  static const std::vector<Words> kAll = {
+      {Role::kCompareOp,
+       {{"less", kelCmpLess},
+        {"lessEq", kelCmpLessEq},
+        {"eq", kelCmpEq},
+        {"greaterEq", kelCmpGreaterEq},
+        {"greater", kelCmpGreater}},
+       kelCmpLess},
+      {Role::kHint,
+       {{"none", kelAlgHintNone}, {"fast", kelAlgHintFast}, {"accurate", kelAlgHintAccurate}},
+       kelAlgHintFast},
+      {Role::kAxis,
+       {{"horizontal", kelAxisHorizontal}, {"vertical", kelAxisVertical}, {"both", kelAxisBoth}},
+       kelAxisVertical},
+      {Role::kInterpolation,
+       {{"nearest", kelInterpolationNearest},
+        {"linear", kelInterpolationLinear},
+        {"cubic", kelInterpolationCubic}},
+       kelInterpolationLinear},
+      {Role::kRoundMode, {{"zero", kelRoundZero}, {"nearest", kelRoundNearest}}, kelRoundNearest}};
+  for (const Words& words : kAll) {
+    if (words.role == role) return &words;
+  }
+  return nullptr;
+}
 
 // Parameters without a sample type are C ints.
 Type numberType(const Argument& a) { return a.type == Type::kNone ? Type::k32s : a.type; }
@@ -88,8 +116,14 @@ Value Numbers::valueOf(std::size_t i) {
     value.p = arraysFor(i);
   } else if (a.role == Role::kLevelCount || a.role == Role::kLevelBound) {
     value = perChannel(a);
-  } else if (a.role == Role::kCompareOp || a.role == Role::kHint) {
+  } else if (wordsFor(a.role)) {
     value.i = wordOf(a);
+  } else if (a.role == Role::kMaskSize) {
+    value.size = maskSize();
+  } else if (a.role == Role::kAnchor) {
+    value.point = anchor();
+  } else if (a.role == Role::kElement) {
+    value.p = element(a);
   } else {
     value = numbersOf(a);
   }
@@ -124,26 +158,60 @@ Value Numbers::perChannel(const Argument& a) {
 std::int64_t Numbers::wordOf(const Argument& a) const {
   std::string option = optionOf(a);
   const std::string* text = options_.find(option);
-  if (!text) return kelAlgHintFast;
-  std::string known;
-  const auto look = [&](const auto& words) {
-    for (const Word& word : words) {
-      if (*text == word.name) return &word;
-      known += std::string(word.name) + ", ";
-    }
-    return static_cast<const Word*>(nullptr);
-  };
-  bool comparison = a.role == Role::kCompareOp;
-  const Word* word = comparison ? look(kComparisons) : look(kHints);
-  if (word) return word->value;
+  const Words& known = *wordsFor(a.role);
+  if (!text) return known.otherwise;
+  std::string names;
+  for (const Word& word : known.words) {
+    if (*text == word.name) return word.value;
+    names += std::string(word.name) + ", ";
+  }
   if (text->find_first_not_of("-0123456789") != std::string::npos) {
-    throw UsageError(option + ": '" + *text + "' is none of " + known + "and no integer");
+    throw UsageError(option + ": '" + *text + "' is none of " + names + "and no integer");
   }
   std::int64_t number = parseNumbers(option, *text, Type::k32s, 1)[0].i;
+  bool comparison = a.role == Role::kCompareOp;
   if (comparison && (number < kelCmpLess || number > kelCmpGreater)) {
     throw UsageError(option + ": " + *text + " is out of range");
   }
   return number;
+}
+
+KeliSize Numbers::maskSize() const {
+  const std::string* text = options_.find("--maskSize");
+  if (!text) return {3, 3};
+  std::vector<Value> n = parseNumbers("--maskSize", *text, Type::k32s, 2, 'x');
+  if (n[0].i > kMostSide || n[1].i > kMostSide) {
+    throw UsageError("--maskSize: " + *text + " is more than " + std::to_string(kMostSide));
+  }
+  return {static_cast<int>(n[0].i), static_cast<int>(n[1].i)};
+}
+
+KeliPoint Numbers::anchor() const {
+  const std::string* text = options_.find("--anchor");
+  KeliSize mask = maskSize();
+  if (!text) return {mask.width / 2, mask.height / 2};
+  std::vector<Value> n = parseNumbers("--anchor", *text, Type::k32s, 2);
+  return {static_cast<int>(n[0].i), static_cast<int>(n[1].i)};
+}
+
+// The bytes of a mask in the shape that a word tells.
+const void* Numbers::element(const Argument& a) {
+  const std::string* text = options_.find(optionOf(a));
+  std::string shape = text ? *text : "ellipse";
+  if (shape != "ellipse" && shape != "cross" && shape != "rectangle") {
+    throw UsageError(optionOf(a) + ": '" + shape + "' is none of ellipse, cross, rectangle");
+  }
+  KeliSize mask = maskSize();
+  std::vector<unsigned char>& bytes = arrays_.emplace_back();
+  for (int y = 0; y < mask.height; ++y) {
+    for (int x = 0; x < mask.width; ++x) {
+      double u = (2.0 * x + 1) / mask.width - 1, v = (2.0 * y + 1) / mask.height - 1;
+      bool onCross = x == mask.width / 2 || y == mask.height / 2;
+      bytes.push_back(shape == "ellipse" ? u * u + v * v <= 1 : shape == "cross" ? onCross : true);
+    }
+  }
+  if (bytes.empty()) bytes.push_back(0);
+  return bytes.data();
 }
 
 // A number, or an array of them in memory that lives until the call.

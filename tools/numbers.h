@@ -20,6 +20,10 @@ class Numbers {
   // Of argument i; what it points to lives as long as this.
   registry::Value valueOf(std::size_t i);
 
+  // The mask of a neighbourhood, and the pixel of it that lies on the result.
+  KeliSize maskSize() const;
+  KeliPoint anchor() const;
+
   // After the call: what it has counted, channel by channel.
   std::vector<Histogram> histograms() const;
   // After the call: all results, with or without the histograms.
@@ -31,6 +35,7 @@ class Numbers {
   std::vector<registry::Value> onePerChannel(const registry::Argument& a) const;
   registry::Value perChannel(const registry::Argument& a);
   std::int64_t wordOf(const registry::Argument& a) const;
+  const void* element(const registry::Argument& a);
   registry::Value numbersOf(const registry::Argument& a);
   registry::Value inMemory(registry::Type type, const std::vector<registry::Value>& numbers);
   const void* newArray(std::size_t bytes);

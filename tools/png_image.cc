@@ -1,6 +1,7 @@
 // Reads and writes PNG files through libpng.
 #include "png_image.h"
 
+#include <algorithm>
 #include <png.h>
 
 #include <cerrno>
@@ -115,6 +116,22 @@ void writePng(const std::string& path, const PngImage& image) {
     throw UsageError(path +
                      ": cannot write: " + (written ? std::strerror(errno) : description.message));
   }
+}
+
+PngImage part(const PngImage& png, int x, int y, int width, int height) {
+  PngImage out{width, height, png.channels, {}};
+  for (int row = y; row < y + height; ++row) {
+    for (int column = x; column < x + width; ++column) {
+      std::size_t at = std::clamp(row, 0, png.height - 1) * png.rowBytes() +
+                       std::size_t(std::clamp(column, 0, png.width - 1)) * png.channels;
+      for (int k = 0; k < png.channels; ++k) out.samples.push_back(png.samples[at + k]);
+    }
+  }
+  return out;
+}
+
+PngImage extended(const PngImage& png, int left, int top, int right, int bottom) {
+  return part(png, -left, -top, left + png.width + right, top + png.height + bottom);
 }
 
 }  // namespace keli::tool

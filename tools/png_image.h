@@ -21,6 +21,10 @@ struct PngImage {
   std::size_t rowBytes() const { return std::size_t(width) * channels; }
 };
 
+// The image with its outermost pixels repeated around it, and a part of an image.
+PngImage extended(const PngImage& png, int left, int top, int right, int bottom);
+PngImage part(const PngImage& png, int x, int y, int width, int height);
+
 // Palettes and low bit depths are expanded, 16 bits reduced to 8; throws UsageError.
 PngImage readPng(const std::string& path);
 void writePng(const std::string& path, const PngImage& image);

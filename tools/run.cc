@@ -6,6 +6,7 @@
 #include <cstring>
 #include <optional>
 
+#include "maps.h"
 #include "numbers.h"
 #include "options.h"
 #include "raster.h"
@@ -27,22 +28,39 @@ bool isInput(Role role) {
 
 bool isParameter(Role role) {
   return registry::isConstant(role) || role == Role::kScalar || role == Role::kScaleFactor ||
-         role == Role::kOrder || role == Role::kTolerance;
+         role == Role::kOrder || role == Role::kTolerance || role == Role::kTopBorder ||
+         role == Role::kLeftBorder || role == Role::kRangeMin || role == Role::kRangeMax;
+}
+
+// With a value if none is given.
+bool isOptional(Role role) {
+  return role == Role::kHint || role == Role::kAxis || role == Role::kInterpolation ||
+         role == Role::kRoundMode || role == Role::kMaskSize || role == Role::kAnchor ||
+         role == Role::kElement;
+}
+
+bool isSize(Role role) {
+  return role == Role::kRegion || role == Role::kSourceRegion || role == Role::kSourceRect;
 }
 
 // Of every channel its own, or one for all.
 bool isPerChannel(Role role) { return role == Role::kLevelCount || role == Role::kLevelBound; }
 
 bool isSupplied(Role role) {
+  if (role == Role::kInOutWithin) return false;
   return registry::isImage(role) || registry::isResult(role) || isParameter(role) ||
-         isPerChannel(role) || role == Role::kLevels || role == Role::kCompareOp ||
-         role == Role::kHint || role == Role::kStep || role == Role::kRegion;
+         isPerChannel(role) || isOptional(role) || isSize(role) || role == Role::kLevels ||
+         role == Role::kCompareOp || role == Role::kStep;
 }
 
 template <class Condition>
 int count(const Function& f, Condition condition) {
   return static_cast<int>(std::count_if(f.arguments.begin(), f.arguments.end(),
                                         [&](const Argument& a) { return condition(a.role); }));
+}
+
+bool takes(const Function& f, Role role) {
+  return count(f, [role](Role other) { return other == role; }) != 0;
 }
 
 std::string sizeText(int width, int height) {
@@ -68,7 +86,8 @@ void requireCallable(const Function& f) {
 // Whether an option must be given, by its name.
 std::map<std::string, bool> acceptedOptions(const Function& f) {
   std::map<std::string, bool> accepted = {{"--roi", false}};
-  if (count(f, isInput) == 0) accepted["--size"] = false;
+  if (count(f, isInput) == 0 || takes(f, Role::kSourceRegion)) accepted["--size"] = false;
+  if (takes(f, Role::kMap)) accepted["--map"] = true;
   bool levelsGiven = count(f, [](Role role) { return role == Role::kLevels; }) != 0;
   for (const Argument& a : f.arguments) {
     if (registry::isWritten(a.role)) accepted["-o"] = true;
@@ -82,7 +101,7 @@ std::map<std::string, bool> acceptedOptions(const Function& f) {
         (isPerChannel(a.role) && !counted)) {
       accepted["--" + std::string(a.name)] = true;
     }
-    if (a.role == Role::kHint) accepted["--" + std::string(a.name)] = false;
+    if (isOptional(a.role)) accepted["--" + std::string(a.name)] = false;
   }
   return accepted;
 }
@@ -130,7 +149,9 @@ class Run {
  private:
   struct Image {
     Raster raster;
-    std::string file;  // for messages
+    std::string file;           // for messages
+    KeliSize size;              // without what lies around
+    KeliPoint origin = {0, 0};  // of the image in the raster
   };
 
   void loadInputs() {
@@ -139,34 +160,61 @@ class Run {
       const Argument& a = function_.arguments[i];
       if (isInput(a.role)) {
         load(i, *file++);
-        if (!frame_.width) frame_ = {images_[i]->raster.width(), images_[i]->raster.height()};
-        if (a.role == Role::kInOut) output_ = &images_[i]->raster;
+        if (!frame_.width) frame_ = images_[i]->size;
+        if (a.role == Role::kInOut) output_ = &*images_[i];
       } else if (a.role == Role::kMask) {
         const std::string& mask = *options_.find("--mask");
-        images_[i] = Image{makeMask(readPng(mask)), mask};
+        PngImage png = readPng(mask);
+        images_[i] = Image{makeMask(png), mask, {png.width, png.height}};
       }
     }
   }
 
+  // What functions read around the region exists around the whole picture.
   void load(std::size_t i, const std::string& file) {
     const Argument& a = function_.arguments[i];
-    images_[i] = Image{Raster(a.type, a.layout, readPng(file)), file};
+    PngImage png = readPng(file);
+    KeliSize size = {png.width, png.height}, mask = {1, 1};
+    KeliPoint anchor = {0, 0};
+    if (isInput(a.role) && function_.reach == registry::Reach::k3x3) {
+      mask = {3, 3};
+      anchor = {1, 1};
+    } else if (isInput(a.role) && function_.reach == registry::Reach::kMask) {
+      mask = numbers_.maskSize();
+      anchor = numbers_.anchor();
+    }
+    bool extends =
+        anchor.x >= 0 && anchor.y >= 0 && anchor.x < mask.width && anchor.y < mask.height;
+    if (extends) {  // else the function refuses the mask
+      png =
+          extended(png, anchor.x, anchor.y, mask.width - 1 - anchor.x, mask.height - 1 - anchor.y);
+    } else {
+      anchor = {0, 0};
+    }
+    images_[i] = Image{Raster(a.type, a.layout, png), file, size, anchor};
   }
 
-  // The region without --roi: the first input's size, else that of --dst, else --size.
+  // The region without --roi: the first input's size, else that of --dst, else --size. Where the
+  // source has a size of its own, that of the destination comes from --dst or --size.
   void makeDestination() {
     for (std::size_t i = 0; i < images_.size(); ++i) {
       const Argument& a = function_.arguments[i];
       if (!registry::isWritten(a.role) || a.role == Role::kInOut) continue;
       if (const std::string* file = options_.find("--dst")) {
         load(i, *file);
-        if (!frame_.width) frame_ = {images_[i]->raster.width(), images_[i]->raster.height()};
+        destination_ = images_[i]->size;
+        if (!frame_.width) frame_ = destination_;
       } else {
+        bool own = takes(function_, Role::kSourceRegion) && options_.find("--size");
         if (!frame_.width) frame_ = sizeOption();
-        images_[i] = Image{Raster(a.type, a.layout, frame_.width, frame_.height), "the result"};
+        destination_ = own ? sizeOption() : frame_;
+        images_[i] = Image{Raster(a.type, a.layout, destination_.width, destination_.height),
+                           "the result", destination_};
       }
-      output_ = &images_[i]->raster;
+      output_ = &*images_[i];
     }
+    if (const std::string* map = options_.find("--map"))
+      maps_ = makeMaps(*map, frame_, destination_);
   }
 
   KeliSize sizeOption() const {
@@ -188,14 +236,19 @@ class Run {
         throw UsageError("--roi: " + *text + " is empty");
       }
     }
-    for (const std::optional<Image>& image : images_) {
-      if (image) requireRegionInside(*image);
+    for (std::size_t i = 0; i < images_.size(); ++i) {
+      if (images_[i] && !wholeSize(function_.arguments[i])) requireRegionInside(*images_[i]);
     }
+  }
+
+  // Whether all of an image takes part, whatever the region of the source is.
+  bool wholeSize(const Argument& a) const {
+    return takes(function_, Role::kSourceRegion) && registry::isWritten(a.role);
   }
 
   void requireRegionInside(const Image& image) const {
     const KeliRect& r = region_;
-    int width = image.raster.width(), height = image.raster.height();
+    int width = image.size.width, height = image.size.height;
     if (r.x >= 0 && r.y >= 0 && r.width <= width && r.height <= height && r.x <= width - r.width &&
         r.y <= height - r.height) {
       return;
@@ -209,15 +262,39 @@ class Run {
     const Argument& a = function_.arguments[i];
     Value value{};
     if (images_[i]) {
-      Raster& raster = images_[i]->raster;
-      step_ = raster.step();
-      value.p = raster.argument(region_.x, region_.y, channelOf(a));
+      value.p = addressOf(*images_[i], a);
+    } else if (a.role == Role::kMap) {
+      value.p = mapsGiven_++ == 0 ? maps_.x.data() : maps_.y.data();
+      step_ = destination_.width * static_cast<int>(sizeof(float));
     } else if (a.role == Role::kStep) {
       value.i = step_;
-    } else if (a.role == Role::kRegion) {
-      value.size = {region_.width, region_.height};
+    } else if (isSize(a.role)) {
+      value = sizeFor(a.role);
     } else {
       value = numbers_.valueOf(i);
+    }
+    return value;
+  }
+
+  // Sources of which a rectangle is used are given as a whole, and so are destinations of a size of
+  // their own.
+  const void* addressOf(Image& image, const Argument& a) {
+    step_ = image.raster.step();
+    bool whole = wholeSize(a) || (isInput(a.role) && takes(function_, Role::kSourceRect));
+    int x = whole ? 0 : region_.x, y = whole ? 0 : region_.y;
+    return image.raster.argument(x + image.origin.x, y + image.origin.y, channelOf(a));
+  }
+
+  Value sizeFor(Role role) const {
+    Value value{};
+    if (role == Role::kSourceRect) {
+      value.rect = region_;
+    } else if (role == Role::kSourceRegion && takes(function_, Role::kSourceRect)) {
+      value.size = frame_;
+    } else if (role == Role::kRegion && takes(function_, Role::kSourceRegion)) {
+      value.size = destination_;
+    } else {
+      value.size = {region_.width, region_.height};
     }
     return value;
   }
@@ -237,15 +314,23 @@ class Run {
 
   void writePicture() const {
     const std::string* file = options_.find("-o");
-    if (file) writePng(*file, output_ ? output_->toPng() : drawHistograms(numbers_.histograms()));
+    if (file) writePng(*file, output_ ? picture(*output_) : drawHistograms(numbers_.histograms()));
+  }
+
+  static PngImage picture(const Image& image) {
+    return part(image.raster.toPng(), image.origin.x, image.origin.y, image.size.width,
+                image.size.height);
   }
 
   const Function& function_;
   const Options& options_;
   std::vector<std::optional<Image>> images_;  // one for each argument that is an image
   Numbers numbers_;
-  Raster* output_ = nullptr;
+  Image* output_ = nullptr;
   KeliSize frame_{};
+  KeliSize destination_{};
+  Maps maps_;
+  int mapsGiven_ = 0;
   KeliRect region_{};
   int step_ = 0;  // of the last image in the list
 };

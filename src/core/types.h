@@ -1,10 +1,12 @@
-// Layouts of an image's channels, as the names of the functions give them.
+// Layouts of an image's channels, as the names of the functions give them, and the types of the
+// interface without its functions: a new one, or its documentation, compiles no kernel anew.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 
-#include "keli.h"
+#include "keli_status.h"
+#include "keli_types.h"
 
 namespace keli {
 

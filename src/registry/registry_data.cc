@@ -6680,6 +6680,150 @@ constexpr Argument kArguments[] = {
     {"nLevels", Role::kLevelCount, Type::kNone, Layout::C1, 3},
     {"lowerLevel", Role::kLevelBound, Type::kNone, Layout::C1, 3},
     {"upperLevel", Role::kLevelBound, Type::kNone, Layout::C1, 3},
+    {"pSrc", Role::kSource, Type::k8u, Layout::C1, 0},
+    {"srcSize", Role::kSourceRegion, Type::kNone, Layout::C1, 0},
+    {"srcStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"srcROI", Role::kSourceRect, Type::kNone, Layout::C1, 0},
+    {"pxMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"xMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pyMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"yMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pDst", Role::kDestination, Type::k8u, Layout::C1, 0},
+    {"dstStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"dstRoiSize", Role::kRegion, Type::kNone, Layout::C1, 0},
+    {"interpolation", Role::kInterpolation, Type::kNone, Layout::C1, 0},
+    {"pSrc", Role::kSource, Type::k8u, Layout::C3, 0},
+    {"srcSize", Role::kSourceRegion, Type::kNone, Layout::C1, 0},
+    {"srcStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"srcROI", Role::kSourceRect, Type::kNone, Layout::C1, 0},
+    {"pxMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"xMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pyMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"yMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pDst", Role::kDestination, Type::k8u, Layout::C3, 0},
+    {"dstStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"dstRoiSize", Role::kRegion, Type::kNone, Layout::C1, 0},
+    {"interpolation", Role::kInterpolation, Type::kNone, Layout::C1, 0},
+    {"pSrc", Role::kSource, Type::k8u, Layout::C4, 0},
+    {"srcSize", Role::kSourceRegion, Type::kNone, Layout::C1, 0},
+    {"srcStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"srcROI", Role::kSourceRect, Type::kNone, Layout::C1, 0},
+    {"pxMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"xMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pyMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"yMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pDst", Role::kDestination, Type::k8u, Layout::C4, 0},
+    {"dstStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"dstRoiSize", Role::kRegion, Type::kNone, Layout::C1, 0},
+    {"interpolation", Role::kInterpolation, Type::kNone, Layout::C1, 0},
+    {"pSrc", Role::kSource, Type::k8u, Layout::AC4, 0},
+    {"srcSize", Role::kSourceRegion, Type::kNone, Layout::C1, 0},
+    {"srcStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"srcROI", Role::kSourceRect, Type::kNone, Layout::C1, 0},
+    {"pxMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"xMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pyMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"yMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pDst", Role::kDestination, Type::k8u, Layout::AC4, 0},
+    {"dstStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"dstRoiSize", Role::kRegion, Type::kNone, Layout::C1, 0},
+    {"interpolation", Role::kInterpolation, Type::kNone, Layout::C1, 0},
+    {"pSrc", Role::kSource, Type::k8u, Layout::P3, 3},
+    {"srcSize", Role::kSourceRegion, Type::kNone, Layout::C1, 0},
+    {"srcStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"srcROI", Role::kSourceRect, Type::kNone, Layout::C1, 0},
+    {"pxMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"xMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pyMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"yMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pDst", Role::kDestination, Type::k8u, Layout::P3, 3},
+    {"dstStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"dstRoiSize", Role::kRegion, Type::kNone, Layout::C1, 0},
+    {"interpolation", Role::kInterpolation, Type::kNone, Layout::C1, 0},
+    {"pSrc", Role::kSource, Type::k8u, Layout::P4, 4},
+    {"srcSize", Role::kSourceRegion, Type::kNone, Layout::C1, 0},
+    {"srcStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"srcROI", Role::kSourceRect, Type::kNone, Layout::C1, 0},
+    {"pxMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"xMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pyMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"yMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pDst", Role::kDestination, Type::k8u, Layout::P4, 4},
+    {"dstStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"dstRoiSize", Role::kRegion, Type::kNone, Layout::C1, 0},
+    {"interpolation", Role::kInterpolation, Type::kNone, Layout::C1, 0},
+    {"pSrc", Role::kSource, Type::k32f, Layout::C1, 0},
+    {"srcSize", Role::kSourceRegion, Type::kNone, Layout::C1, 0},
+    {"srcStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"srcROI", Role::kSourceRect, Type::kNone, Layout::C1, 0},
+    {"pxMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"xMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pyMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"yMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pDst", Role::kDestination, Type::k32f, Layout::C1, 0},
+    {"dstStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"dstRoiSize", Role::kRegion, Type::kNone, Layout::C1, 0},
+    {"interpolation", Role::kInterpolation, Type::kNone, Layout::C1, 0},
+    {"pSrc", Role::kSource, Type::k32f, Layout::C3, 0},
+    {"srcSize", Role::kSourceRegion, Type::kNone, Layout::C1, 0},
+    {"srcStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"srcROI", Role::kSourceRect, Type::kNone, Layout::C1, 0},
+    {"pxMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"xMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pyMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"yMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pDst", Role::kDestination, Type::k32f, Layout::C3, 0},
+    {"dstStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"dstRoiSize", Role::kRegion, Type::kNone, Layout::C1, 0},
+    {"interpolation", Role::kInterpolation, Type::kNone, Layout::C1, 0},
+    {"pSrc", Role::kSource, Type::k32f, Layout::C4, 0},
+    {"srcSize", Role::kSourceRegion, Type::kNone, Layout::C1, 0},
+    {"srcStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"srcROI", Role::kSourceRect, Type::kNone, Layout::C1, 0},
+    {"pxMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"xMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pyMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"yMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pDst", Role::kDestination, Type::k32f, Layout::C4, 0},
+    {"dstStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"dstRoiSize", Role::kRegion, Type::kNone, Layout::C1, 0},
+    {"interpolation", Role::kInterpolation, Type::kNone, Layout::C1, 0},
+    {"pSrc", Role::kSource, Type::k32f, Layout::AC4, 0},
+    {"srcSize", Role::kSourceRegion, Type::kNone, Layout::C1, 0},
+    {"srcStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"srcROI", Role::kSourceRect, Type::kNone, Layout::C1, 0},
+    {"pxMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"xMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pyMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"yMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pDst", Role::kDestination, Type::k32f, Layout::AC4, 0},
+    {"dstStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"dstRoiSize", Role::kRegion, Type::kNone, Layout::C1, 0},
+    {"interpolation", Role::kInterpolation, Type::kNone, Layout::C1, 0},
+    {"pSrc", Role::kSource, Type::k32f, Layout::P3, 3},
+    {"srcSize", Role::kSourceRegion, Type::kNone, Layout::C1, 0},
+    {"srcStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"srcROI", Role::kSourceRect, Type::kNone, Layout::C1, 0},
+    {"pxMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"xMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pyMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"yMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pDst", Role::kDestination, Type::k32f, Layout::P3, 3},
+    {"dstStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"dstRoiSize", Role::kRegion, Type::kNone, Layout::C1, 0},
+    {"interpolation", Role::kInterpolation, Type::kNone, Layout::C1, 0},
+    {"pSrc", Role::kSource, Type::k32f, Layout::P4, 4},
+    {"srcSize", Role::kSourceRegion, Type::kNone, Layout::C1, 0},
+    {"srcStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"srcROI", Role::kSourceRect, Type::kNone, Layout::C1, 0},
+    {"pxMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"xMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pyMap", Role::kMap, Type::k32f, Layout::C1, 0},
+    {"yMapStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"pDst", Role::kDestination, Type::k32f, Layout::P4, 4},
+    {"dstStep", Role::kStep, Type::kNone, Layout::C1, 0},
+    {"dstRoiSize", Role::kRegion, Type::kNone, Layout::C1, 0},
+    {"interpolation", Role::kInterpolation, Type::kNone, Layout::C1, 0},
 };
 
 constexpr Check kChecks[] = {
@@ -7040,6 +7184,10 @@ constexpr Check kChecks[] = {
     Check::kSize,
     Check::kStep,
     Check::kLevels,
+    Check::kNull,
+    Check::kSizes,
+    Check::kInterpolation,
+    Check::kStep,
 };
 
 constexpr Entry kEntries[] = {
@@ -7154,6 +7302,7 @@ constexpr Entry kEntries[] = {
     {"histogram", "Counts the pixels of each channel by value in bins with given boundaries.", "pHist[k] = number of pixels v with pLevels[k] <= v < pLevels[k + 1], k = 0 .. nLevels - 2", "pLevels holds nLevels >= 2 boundaries, pHist receives nLevels - 1 counts, which replace what it held. C3 and AC4 take three histograms, arrays of levels and numbers of levels, C4 four; AC4 ignores the fourth channel. A boundary is inclusive below and exclusive above: a pixel below the first one of an increasing array, or at or above the last, is not counted. Levels may lie beyond the range of the samples and act as its ends then. They need not increase: every bin counts by the formula alone, so that a pixel may count in several bins or in none, and a bin whose upper boundary is not above its lower one stays 0. Counts above 2^31 - 1 are given as 2^31 - 1. All arrays may stand at any address; histograms must not overlap the image or the levels. 16s: kelStatusNoMemory if a temporary table cannot be allocated (at most 256 KiB for each channel, none for small images); no histogram is written then.", {kChecks + 342, 5}},
     {"histogram", "Counts the pixels of each channel by value in bins with given floating-point boundaries.", "pHist[k] = number of pixels v with pLevels[k] <= v < pLevels[k + 1], k = 0 .. nLevels - 2", "pLevels holds nLevels >= 2 boundaries, pHist receives nLevels - 1 counts, which replace what it held. C3 and AC4 take three histograms, arrays of levels and numbers of levels, C4 four; AC4 ignores the fourth channel. Values compare as IEEE 754 defines it: a NaN is in no bin, -0 equals 0, and infinite levels are valid, so that a last level of infinity leaves out infinite pixels only. Levels need not increase: every bin counts by the formula alone, so that a pixel may count in several bins or in none. A bin with a boundary that is NaN stays 0. Counts above 2^31 - 1 are given as 2^31 - 1. All arrays may stand at any address; histograms must not overlap the image or the levels.", {kChecks + 347, 5}},
     {"histogram", "Counts the pixels of each channel by value in evenly spaced bins, and gives their boundaries.", "pLevels[k + 1] = pLevels[k] + q + (k < r), pLevels[0] = lowerLevel, q = (upperLevel - lowerLevel) / m, r = (upperLevel - lowerLevel) % m, m = nLevels - 1", "Writes the nLevels >= 2 boundaries to pLevels, then counts as keliHistogramRange does. The division is that of integers: the first r bins are one value wider than the others, and pLevels[m] is upperLevel. C3 and AC4 take three histograms, arrays of levels, numbers of levels and bounds, C4 four; AC4 ignores the fourth channel. Counts above 2^31 - 1 are given as 2^31 - 1. All arrays may stand at any address; what is written must not overlap the image, nor one array another. With upperLevel < lowerLevel, the quotient truncates towards zero and the first -r steps are one value longer: all bins are empty. Where the difference is smaller than m, so that q is 0, every level is lowerLevel. 16s: kelStatusNoMemory if a temporary table cannot be allocated (at most 256 KiB for each channel, none for small images); neither levels nor histograms are written then.", {kChecks + 352, 5}},
+    {"remap", "Builds an image from the values of another at coordinates that two maps give.", "dst(x, y) = src(pxMap(x, y), pyMap(x, y))", "The maps are 32f images of dstRoiSize. Their coordinates are pixels of the whole source image, of srcSize, to whose first pixel pSrc points. Pixels whose coordinates lie outside srcROI, left of its first or beyond its last column or row, or are not numbers, keep their values; a srcROI that leaves the source image is cut to it. The interpolation: kelInterpolationNearest takes the pixel whose column and row are the coordinates rounded to the nearest integer, ties to even. kelInterpolationLinear blends the 2 x 2 pixels around the coordinates with the weights 1 - f and f of each fraction f, first along the rows. At the last column or row of srcROI the pixels are those before it, with f = 1; a region one pixel wide or high gives that pixel. 8u: the fractions are rounded to 14 bits, ties to even; what a row gives is cut to 6 bits behind the point; the result is rounded to the nearest integer, ties up. 32f: each multiplication and addition is rounded to single precision. kelInterpolationCubic blends the 4 x 4 pixels around the coordinates by the cubic convolution kernel with a = -1/2 (Catmull and Rom, 1974; Keys, 1981), first along the columns, each operation in single precision. Columns and rows outside srcROI are replaced by its nearest ones. 8u: rounded to the nearest integer, ties to even, and saturated. A source image one pixel wide or high is always sampled by the nearest pixel, and one with fewer than four columns or rows not cubically but linearly. Neighbours that are infinite or not numbers take part even at weight 0; results that are not numbers are the quiet NaN 0x7FC00000. AC4 leaves the fourth sample of every destination pixel as it was. The maps and the source must not overlap the destination.", {kChecks + 357, 4}},
 };
 
 const Function kFunctions[] = {
@@ -8357,6 +8506,18 @@ const Function kFunctions[] = {
     {"keliHistogramEven_16s_C3R", "HistogramEven", "C3R", "KelStatus keliHistogramEven_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], int* const pLevels[3], const int nLevels[3], const int lowerLevel[3], const int upperLevel[3])", &kEntries[110], {kArguments + 6647, 8}, false, false, false, Reach::kPixel, makeCall(&keliHistogramEven_16s_C3R)},
     {"keliHistogramEven_16s_C4R", "HistogramEven", "C4R", "KelStatus keliHistogramEven_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* const pHist[4], int* const pLevels[4], const int nLevels[4], const int lowerLevel[4], const int upperLevel[4])", &kEntries[110], {kArguments + 6655, 8}, false, false, false, Reach::kPixel, makeCall(&keliHistogramEven_16s_C4R)},
     {"keliHistogramEven_16s_AC4R", "HistogramEven", "AC4R", "KelStatus keliHistogramEven_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], int* const pLevels[3], const int nLevels[3], const int lowerLevel[3], const int upperLevel[3])", &kEntries[110], {kArguments + 6663, 8}, false, false, false, Reach::kPixel, makeCall(&keliHistogramEven_16s_AC4R)},
+    {"keliRemap_8u_C1R", "Remap", "C1R", "KelStatus keliRemap_8u_C1R(const Kel8u* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation)", &kEntries[111], {kArguments + 6671, 12}, false, false, false, Reach::kImage, makeCall(&keliRemap_8u_C1R)},
+    {"keliRemap_8u_C3R", "Remap", "C3R", "KelStatus keliRemap_8u_C3R(const Kel8u* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation)", &kEntries[111], {kArguments + 6683, 12}, false, false, false, Reach::kImage, makeCall(&keliRemap_8u_C3R)},
+    {"keliRemap_8u_C4R", "Remap", "C4R", "KelStatus keliRemap_8u_C4R(const Kel8u* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation)", &kEntries[111], {kArguments + 6695, 12}, false, false, false, Reach::kImage, makeCall(&keliRemap_8u_C4R)},
+    {"keliRemap_8u_AC4R", "Remap", "AC4R", "KelStatus keliRemap_8u_AC4R(const Kel8u* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation)", &kEntries[111], {kArguments + 6707, 12}, false, false, false, Reach::kImage, makeCall(&keliRemap_8u_AC4R)},
+    {"keliRemap_8u_P3R", "Remap", "P3R", "KelStatus keliRemap_8u_P3R(const Kel8u* const pSrc[3], KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel8u* const pDst[3], int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation)", &kEntries[111], {kArguments + 6719, 12}, false, false, false, Reach::kImage, makeCall(&keliRemap_8u_P3R)},
+    {"keliRemap_8u_P4R", "Remap", "P4R", "KelStatus keliRemap_8u_P4R(const Kel8u* const pSrc[4], KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel8u* const pDst[4], int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation)", &kEntries[111], {kArguments + 6731, 12}, false, false, false, Reach::kImage, makeCall(&keliRemap_8u_P4R)},
+    {"keliRemap_32f_C1R", "Remap", "C1R", "KelStatus keliRemap_32f_C1R(const Kel32f* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation)", &kEntries[111], {kArguments + 6743, 12}, false, false, false, Reach::kImage, makeCall(&keliRemap_32f_C1R)},
+    {"keliRemap_32f_C3R", "Remap", "C3R", "KelStatus keliRemap_32f_C3R(const Kel32f* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation)", &kEntries[111], {kArguments + 6755, 12}, false, false, false, Reach::kImage, makeCall(&keliRemap_32f_C3R)},
+    {"keliRemap_32f_C4R", "Remap", "C4R", "KelStatus keliRemap_32f_C4R(const Kel32f* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation)", &kEntries[111], {kArguments + 6767, 12}, false, false, false, Reach::kImage, makeCall(&keliRemap_32f_C4R)},
+    {"keliRemap_32f_AC4R", "Remap", "AC4R", "KelStatus keliRemap_32f_AC4R(const Kel32f* pSrc, KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* pDst, int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation)", &kEntries[111], {kArguments + 6779, 12}, false, false, false, Reach::kImage, makeCall(&keliRemap_32f_AC4R)},
+    {"keliRemap_32f_P3R", "Remap", "P3R", "KelStatus keliRemap_32f_P3R(const Kel32f* const pSrc[3], KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* const pDst[3], int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation)", &kEntries[111], {kArguments + 6791, 12}, false, false, false, Reach::kImage, makeCall(&keliRemap_32f_P3R)},
+    {"keliRemap_32f_P4R", "Remap", "P4R", "KelStatus keliRemap_32f_P4R(const Kel32f* const pSrc[4], KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* const pDst[4], int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation)", &kEntries[111], {kArguments + 6803, 12}, false, false, false, Reach::kImage, makeCall(&keliRemap_32f_P4R)},
 };
 
 constexpr Status kStatuses[] = {
@@ -8476,6 +8637,8 @@ const char* nameOf(Role role) {
       return "hint";
     case Role::kInOut:
       return "inOut";
+    case Role::kInterpolation:
+      return "interpolation";
     case Role::kLevelBound:
       return "levelBound";
     case Role::kLevelCount:
@@ -8486,6 +8649,8 @@ const char* nameOf(Role role) {
       return "levelsOut";
     case Role::kLower:
       return "lower";
+    case Role::kMap:
+      return "map";
     case Role::kMask:
       return "mask";
     case Role::kOrder:
@@ -8504,6 +8669,10 @@ const char* nameOf(Role role) {
       return "source";
     case Role::kSourceChannel:
       return "sourceChannel";
+    case Role::kSourceRect:
+      return "sourceRect";
+    case Role::kSourceRegion:
+      return "sourceRegion";
     case Role::kStep:
       return "step";
     case Role::kStepOut:
