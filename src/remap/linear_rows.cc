@@ -97,58 +97,95 @@ struct BlendReals {
   }
 };
 
-// Two pixels side by side where vectors are long enough.
+// Row p repeats word p + b of 16 bytes throughout block b of 16 bytes.
+struct WordIndices {
+  std::uint8_t bytes[4][HWY_MAX_BYTES];
+};
+constexpr WordIndices kRepeatWords = [] {
+  WordIndices w{};
+  for (std::size_t p = 0; p < 4; ++p) {
+    for (std::size_t i = 0; i < HWY_MAX_BYTES; ++i)
+      w.bytes[p][i] = static_cast<std::uint8_t>((p + i / 16) % 4 * 4 + i % 4);
+  }
+  return w;
+}();
+
+// Vectors hold as many pixels side by side as they have blocks of 16 bytes.
+template <class DW>
+constexpr std::size_t kPixelsOf = hn::MaxLanes(DW()) < 8 ? 1 : hn::MaxLanes(DW()) / 4;
+
+// The two neighbours of each pixel in a row, eight bytes, twice in its block.
+template <class DW>
+HWY_INLINE hn::Vec<DW> neighbours(DW dw, const std::uint8_t* base, const std::int32_t* offsets) {
+  constexpr std::size_t kPixels = kPixelsOf<DW>;
+  const hn::Repartition<std::uint64_t, DW> d;
+  const auto at = [&](std::size_t i) KELI_LAMBDA {
+    return hn::Set(d, load(reinterpret_cast<const std::uint64_t*>(base + offsets[i])));
+  };
+  if constexpr (kPixels == 1) {
+    return hn::BitCast(dw, at(0));
+  } else {
+    const auto first = hn::OddEvenBlocks(at(1), at(0));
+    if constexpr (kPixels == 2) return hn::BitCast(dw, first);
+    const auto second = hn::OddEvenBlocks(at(kPixels - 1), at(kPixels - 2));
+    return hn::BitCast(dw, hn::IfThenElse(hn::FirstN(d, 4), first, second));
+  }
+}
+
+// Number k of an array and those that follow it, each in the block of its pixel.
+template <std::size_t k, class DW>
+HWY_INLINE hn::Vec<DW> ofPixels(DW dw, const std::int32_t* values) {
+  const hn::Repartition<std::uint8_t, DW> d8;
+  const auto four = hn::LoadDup128(dw, values + k / 4 * 4);
+  const auto indices = hn::LoadU(d8, kRepeatWords.bytes[k % 4]);
+  return hn::BitCast(dw, hn::TableLookupBytes(hn::BitCast(d8, four), indices));
+}
+
+// Pixels of four words each, as bytes. last: nothing follows that may be written over.
+template <int kStored, int kUsed, class DW>
+HWY_INLINE void storePixels(DW, hn::Vec<DW> samples, Kel8u* dst, bool last) {
+  const hn::Rebind<Kel8u, DW> d8;
+  const auto bytes = hn::DemoteTo(d8, samples);
+  if constexpr (kUsed == 4) {
+    hn::StoreU(bytes, d8, dst);
+  } else if constexpr (kStored == 4) {
+    storeWhere(d8, cycleMask<4, 3>(d8, 0), bytes, dst);
+  } else {
+    alignas(16) static constexpr std::uint8_t kFirstThree[16] = {
+        0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 128, 128, 128, 128};
+    const auto packed = hn::TableLookupBytesOr0(bytes, hn::LoadU(d8, kFirstThree));
+    if (!last) {
+      hn::StoreU(packed, d8, dst);
+    } else {
+      HWY_ALIGN Kel8u exact[hn::MaxLanes(DW())];
+      hn::Store(packed, d8, exact);
+      std::memcpy(dst, exact, 3 * kPixelsOf<DW>);
+    }
+  }
+}
+
 template <int kChannels, int kUsed>
 struct BlendBytePixels {
   using Mode = remap::Linear<Kel8u, kChannels, kUsed>;
   static constexpr int kStored = kChannels;
-  using DW = hn::CappedTag<std::int32_t, 8>;
-  static constexpr std::size_t kPixels = hn::MaxLanes(DW()) == 8 ? 2 : 1;
-
-  // Two neighbours of eight bytes, twice in 16.
-  HWY_INLINE static hn::Vec<DW> neighbours(const std::uint8_t* base, const std::int32_t* offsets) {
-    const hn::Repartition<std::uint64_t, DW> d;
-    const auto at = [&](std::size_t i) KELI_LAMBDA {
-      return hn::Set(d, load(reinterpret_cast<const std::uint64_t*>(base + offsets[i])));
-    };
-    if constexpr (kPixels == 2) {
-      return hn::BitCast(DW(), hn::OddEvenBlocks(at(1), at(0)));
-    } else {
-      return hn::BitCast(DW(), at(0));
-    }
-  }
-
-  HWY_INLINE static hn::Vec<DW> ofPixels(const std::int32_t* values) {
-    const DW d;
-    if constexpr (kPixels == 2) {
-      return hn::OddEvenBlocks(hn::Set(d, values[1]), hn::Set(d, values[0]));
-    } else {
-      return hn::Set(d, values[0]);
-    }
-  }
 
   static HWY_INLINE void block(const remap::Remapping& r, RealVec fx, RealVec fy, Kel8u* dst) {
     const Wholes d;
     alignas(16) static constexpr std::uint8_t kPairs[16] = {
         0, 128, kChannels,     128, 1, 128, kChannels + 1, 128,
         2, 128, kChannels + 2, 128, 3, 128, kChannels + 3, 128};
-    alignas(16) static constexpr std::uint8_t kLowest[16] = {
-        0, 4, 8, 12, 128, 128, 128, 128, 128, 128, 128, 128, 128, 128, 128, 128};
     HWY_ALIGN std::int32_t offsets[kBlock], wx[kBlock], wy[kBlock];
     const Place x(fx), y(fy);
     hn::Store(offsetsOf(r, x.whole, y.whole, kChannels), d, offsets);
     hn::Store(weightPairs(x.fraction), d, wx);
     hn::Store(weightPairs(y.fraction), d, wy);
+    constexpr std::size_t kPixels = kPixelsOf<Wholes>;
     unrolled<kBlock / kPixels>([&](auto i) KELI_LAMBDA {
       constexpr std::size_t k = i * kPixels;
-      const DW dw;
-      const auto top = bytePairs(dw, neighbours(r.src, offsets + k), kPairs);
-      const auto bottom = bytePairs(dw, neighbours(r.src + r.srcStep, offsets + k), kPairs);
-      const auto result = blended(dw, top, bottom, ofPixels(wx + k), ofPixels(wy + k));
-      HWY_ALIGN std::int32_t packed[4 * kPixels];
-      hn::Store(bytePairs(dw, result, kLowest), dw, packed);
-      unrolled<kPixels>(
-          [&](auto p) KELI_LAMBDA { storePixel<kUsed>(packed[4 * p], dst + kStored * (k + p)); });
+      const auto top = bytePairs(d, neighbours(d, r.src, offsets + k), kPairs);
+      const auto bottom = bytePairs(d, neighbours(d, r.src + r.srcStep, offsets + k), kPairs);
+      const auto result = blended(d, top, bottom, ofPixels<k>(d, wx), ofPixels<k>(d, wy));
+      storePixels<kStored, kUsed>(d, result, dst + kStored * k, k + kPixels == kBlock);
     });
   }
 };
