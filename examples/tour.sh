@@ -136,6 +136,31 @@ panel "histogram, 32 bins" keliHistogramEven_8u_C1R camera.png \
   --nLevels 33 --lowerLevel 0 --upperLevel 256
 endSheet
 
+photograph chelsea.png
+photograph camera.png
+photograph coffee.png
+panel "60..200 scaled to 0..255" keliScale_32f8u_C3R coffee.png --vMin 60 --vMax 200
+panel "a border of one colour" keliCopyConstBorder_8u_C3R chelsea.png \
+  --size 480x380 --topBorderHeight 40 --leftBorderWidth 40 --value 250,190,40
+panel "the edges repeated" keliCopyReplicateBorder_8u_C3R coffee.png --roi 60,40,280,220 \
+  --size 400x300 --topBorderHeight 40 --leftBorderWidth 60
+panel "a part, periodically" keliCopyWrapBorder_32s_C1R camera.png --roi 150,40,110,90 \
+  --size 400x300 --topBorderHeight 100 --leftBorderWidth 140
+panel "mirrored left to right" keliMirror_8u_C3R chelsea.png --flip vertical
+panel "upside down" keliMirror_8u_C3R coffee.png --flip horizontal
+panel "both, in place" keliMirror_8u_C3IR chelsea.png --flip both
+panel "rotated, cubic" keliRemap_8u_C3R chelsea.png --map rotate:25 --interpolation cubic --dst coffee.png
+panel "a wave, linear" keliRemap_8u_C3R coffee.png --map wave:14:80 --interpolation linear
+panel "box of 3 x 3" keliFilterBox_8u_C3R coffee.png --maskSize 3x3
+panel "box of 25 x 25" keliFilterBox_8u_C3R coffee.png --maskSize 25x25
+panel "box of 41 x 2: along rows" keliFilterBox_32f_C3R coffee.png --maskSize 41x2
+panel "maximum of 9 x 9" keliFilterMax_8u_C3R chelsea.png --maskSize 9x9
+panel "minimum of 9 x 9" keliFilterMin_8u_C3R chelsea.png --maskSize 9x9
+panel "eroded, 3 x 3" keliErode3x3_8u_C1R camera.png
+panel "dilated by a disc of 15" keliDilate_8u_C1R camera.png --maskSize 15x15 --pMask ellipse
+panel "eroded by a cross of 21" keliErode_8u_C3R coffee.png --maskSize 21x21 --pMask cross
+endSheet
+
 # Numbers of pictures are printed.
 for call in "keliMean_8u_C3R chelsea.png" "keliMinMax_8u_C1R camera.png" \
     "keliMaxIndx_8u_C1R camera.png" "keliNormRel_L2_8u_C3R coffee.png chelsea.png" \

@@ -30,7 +30,8 @@ keli help                  this text
 
 Options of run, as far as the function has such an argument:
   --dst FILE               initial content of the destination (else zero)
-  --size WxH               size of the destination when there is neither an input nor --dst
+  --size WxH               size of the destination when there is neither an input nor --dst, or
+                           when it has a size of its own
   --roi X,Y,W,H            processes this part of all images (else all of the first)
   --mask FILE              selects the pixels whose gray value is 128 or more
   --srcChannel N, --dstChannel N
@@ -39,6 +40,12 @@ Options of run, as far as the function has such an argument:
   --pLevels 0,64,256       levels of a histogram; with ';' between those of the channels
   --nLevels 5, --lowerLevel 0, --upperLevel 256
                            even levels, for all channels or 5,3,9 for each
+  --maskSize 7x7, --anchor 3,3, --pMask ellipse|cross|rectangle
+                           a neighbourhood; what it needs around the picture is repeated from there
+  --flip horizontal|vertical|both, --interpolation nearest|linear|cubic,
+  --roundMode nearest|zero
+  --map rotate:DEGREES|wave:AMPLITUDE:LENGTH
+                           where a remapped image takes its pixels from
   --value 1,2,3, --dstOrder 2,1,0, --scaleFactor 1, ...
                            any other argument by its name
 

@@ -135,6 +135,29 @@ TEST(Region, SameResultAtEveryPlaceOnEveryTarget) {
   });
 }
 
+// Each row of every image, with the pixels around the region, begins or ends at an inaccessible
+// page.
+TEST(Region, NothingIsTouchedBesideARow) {
+  const std::uint64_t seed = runSeed();
+  forEachImageFunction([&](const Function& f) {
+    static constexpr int kWidths[] = {1, 5, 17, 35, 66, 100, 131, 259};
+    for (std::size_t i = placeOf(f) % 2; i < std::size(kWidths); i += 2) {
+      const Geometry g = {kWidths[i], 3, 0, Place::kMiddle, 0};
+      const Outcome expected = outcomeOf(f, g, seed + i);
+      for (const std::int64_t target : testedTargets()) {
+        const UseTarget use(target);
+        for (const bool atEnd : {false, true}) {
+          TestCall call(f, g, seed + i);
+          call.fence(atEnd);
+          ASSERT_EQ(call.run().status, expected.status) << f.name;
+          ASSERT_EQ(call.outcome(), expected.samples)
+              << f.name << " " << targetName(target) << " width " << g.width;
+        }
+      }
+    }
+  });
+}
+
 // The function without the I of its descriptor.
 const Function* outOfPlace(const Function& f) {
   std::string name = f.name;

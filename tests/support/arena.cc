@@ -39,23 +39,47 @@ class ArenaPool {
   std::vector<std::unique_ptr<Arena>> free_;
 };
 
-}  // namespace
+std::size_t pageBytes() { return static_cast<std::size_t>(sysconf(_SC_PAGESIZE)); }
 
-Arena::Arena(std::size_t count) {
-  const std::size_t page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-  size_ = (count + page - 1) / page * page;
-  void* m = mmap(nullptr, size_ + 2 * page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE,
-                 -1, 0);
-  if (m == MAP_FAILED ||
-      mprotect(static_cast<char*>(m) + page, size_, PROT_READ | PROT_WRITE) != 0) {
+// Inaccessible memory.
+std::uint8_t* reserve(std::size_t count) {
+  void* m = mmap(nullptr, count, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+  if (m == MAP_FAILED) {
     std::perror("arena");
     std::abort();
   }
-  mapping_ = static_cast<std::uint8_t*>(m);
+  return static_cast<std::uint8_t*>(m);
+}
+
+void open(std::uint8_t* p, std::size_t count) {
+  if (mprotect(p, count, PROT_READ | PROT_WRITE) == 0) return;
+  std::perror("arena");
+  std::abort();
+}
+
+}  // namespace
+
+Arena::Arena(std::size_t count) {
+  const std::size_t page = pageBytes();
+  size_ = (count + page - 1) / page * page;
+  mapping_ = reserve(size_ + 2 * page);
   data_ = mapping_ + page;
+  open(data_, size_);
 }
 
 Arena::~Arena() { munmap(mapping_, size_ + 2 * static_cast<std::size_t>(data_ - mapping_)); }
+
+FencedRows::FencedRows(std::size_t rows, std::size_t rowBytes, bool atEnd) {
+  const std::size_t page = pageBytes();
+  const std::size_t open = (rowBytes + page - 1) / page * page;
+  step_ = open + page;
+  size_ = rows * step_ + page;
+  mapping_ = reserve(size_);
+  first_ = mapping_ + page + (atEnd ? open - rowBytes : 0);
+  for (std::size_t y = 0; y < rows; ++y) test::open(mapping_ + page + y * step_, open);
+}
+
+FencedRows::~FencedRows() { munmap(mapping_, size_); }
 
 std::shared_ptr<Arena> borrowArena(std::size_t count) {
   static ArenaPool* const arenas = new ArenaPool;

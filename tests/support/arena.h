@@ -26,6 +26,24 @@ class Arena {
   std::size_t size_;
 };
 
+// Rows whose first or last byte lies at an inaccessible page, each of them.
+class FencedRows {
+ public:
+  FencedRows(std::size_t rows, std::size_t rowBytes, bool atEnd);
+  ~FencedRows();
+  FencedRows(const FencedRows&) = delete;
+  FencedRows& operator=(const FencedRows&) = delete;
+
+  std::uint8_t* begin() const { return first_; }
+  std::size_t step() const { return step_; }
+
+ private:
+  std::uint8_t* mapping_;
+  std::size_t size_;
+  std::size_t step_;
+  std::uint8_t* first_;
+};
+
 // An arena of at least count bytes, whose memory later ones use again: mapping it is slow.
 std::shared_ptr<Arena> borrowArena(std::size_t count);
 

@@ -205,9 +205,13 @@ TestCall::Image TestCall::shapeOf(std::size_t i, const Geometry& g) const {
   image.rowBytes = channel ? (width - 1) * image.pixel + sample : width * image.pixel;
   image.step = all * image.pixel + static_cast<std::size_t>(g.padding);
   if (stepsByWholeSamples(function)) image.step -= image.step % sample;
-  image.inset = static_cast<std::size_t>(image.around.anchor.y) * image.step +
-                static_cast<std::size_t>(image.around.anchor.x) * image.pixel;
+  image.inset = insetOf(image);
   return image;
+}
+
+std::size_t TestCall::insetOf(const Image& image) {
+  return static_cast<std::size_t>(image.around.anchor.y) * image.step +
+         static_cast<std::size_t>(image.around.anchor.x) * image.pixel;
 }
 
 void TestCall::addImage(std::size_t i, const Geometry& g, Random& random) {
@@ -225,17 +229,44 @@ void TestCall::addImage(std::size_t i, const Geometry& g, Random& random) {
       fillRow(image, p + y * image.step, image.rowBytes + beside, random);
     image.planes.push_back(p + image.inset);
   }
+  pointTo(image);
+}
+
+// Gives the function an image's address, or those of its planes.
+void TestCall::pointTo(const Image& image) {
+  const Argument& a = function.arguments[image.argument];
+  Value& value = values[image.argument];
+  value.p = image.planes[0];
   if (isPlanar(a.layout)) {
-    planeArrays_.push_back(std::make_unique<const void*[]>(static_cast<std::size_t>(planes)));
-    for (int k = 0; k < planes; ++k)
-      planeArrays_.back()[static_cast<std::size_t>(k)] = image.planes[static_cast<std::size_t>(k)];
-    values[i].p = planeArrays_.back().get();
-  } else {
-    values[i].p = image.planes[0];
+    planeArrays_.push_back(std::make_unique<const void*[]>(image.planes.size()));
+    std::copy(image.planes.begin(), image.planes.end(), planeArrays_.back().get());
+    value.p = planeArrays_.back().get();
   }
   if (a.role == Role::kInOutWithin) {
-    values[i].p = image.planes[0] + static_cast<std::size_t>(border_.y) * image.step +
-                  static_cast<std::size_t>(border_.x) * image.pixel;
+    value.p = image.planes[0] + static_cast<std::size_t>(border_.y) * image.step +
+              static_cast<std::size_t>(border_.x) * image.pixel;
+  }
+}
+
+void TestCall::fence(bool atEnd) {
+  for (Image& image : images_) {
+    const std::vector<Area> areas = areasOf(image.argument);
+    const std::size_t step = image.step;
+    for (std::size_t k = 0; k < areas.size(); ++k) {
+      fences_.push_back(std::make_shared<FencedRows>(areas[k].rows, areas[k].rowBytes, atEnd));
+      const FencedRows& fenced = *fences_.back();
+      for (std::size_t y = 0; y < areas[k].rows; ++y)
+        std::memcpy(fenced.begin() + y * fenced.step(), areas[k].data + y * step,
+                    areas[k].rowBytes);
+      image.step = fenced.step();
+      image.inset = insetOf(image);
+      image.planes[k] = fenced.begin() + image.inset;
+    }
+    pointTo(image);
+  }
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    if (function.arguments[i].role == Role::kStep)
+      values[i].i = static_cast<std::int64_t>(stepOf(i));
   }
 }
 

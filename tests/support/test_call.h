@@ -74,6 +74,9 @@ class TestCall {
   // Of an image, without the pixels around the region.
   KeliSize sizeOf(std::size_t argument) const { return images_[imageAt_[argument]].region; }
 
+  // Moves all images to rows with an inaccessible page before each of them, or after.
+  void fence(bool atEnd);
+
   // Empty if no byte has changed since construction (or since remember()) in any image or array but
   // those samples that the function may write; else what has changed.
   std::string strayWrites() const;
@@ -103,9 +106,11 @@ class TestCall {
   void chooseWindow(Random random);
   void chooseSource(Random random);
   Image shapeOf(std::size_t argument, const Geometry& g) const;
+  static std::size_t insetOf(const Image& image);
   std::vector<Area> regionsOf(std::size_t argument) const;
   std::vector<Area> areasOf(std::size_t argument) const;
   void addImage(std::size_t argument, const Geometry& g, Random& random);
+  void pointTo(const Image& image);
   void fillRow(const Image& image, std::uint8_t* row, std::size_t rowBytes, Random& random) const;
   void addElement(std::size_t argument, const Geometry& g, Random& random);
   std::uint8_t* addArray(std::size_t argument, std::size_t count, const Geometry& g,
@@ -127,6 +132,7 @@ class TestCall {
   std::vector<Image> images_;
   std::vector<std::size_t> imageAt_;  // by argument
   std::vector<std::shared_ptr<Arena>> arenas_;
+  std::vector<std::shared_ptr<FencedRows>> fences_;
   std::vector<std::vector<std::uint8_t>> before_;
   std::vector<std::unique_ptr<const void*[]>> planeArrays_;
   struct Written {
