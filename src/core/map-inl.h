@@ -9,6 +9,9 @@
 // A keeper (Keep) tells which destination samples are written: all, or the first kUsed of every
 // kPeriod; the row then ends with the last sample written, and nothing after it is touched.
 //
+// An operation that makes narrower samples has a constant kLoads, and is given the sources' pointers
+// where others are given vectors: it loads several for a whole vector of the destination.
+//
 // Rows of at least a vector: the last vector is computed first and stored last, which is right in
 // place too. Shorter rows: the same with vectors of 16, 8 and 4 bytes, then samples. Vectors are of
 // 32 bytes at most: longer ones measured slower, in the caches and beyond. An operation whose
@@ -73,13 +76,20 @@ constexpr std::size_t kMostBytes = 32;
 template <class Op>
 constexpr std::size_t kMostBytes<Op, std::void_t<decltype(Op::kVectorBytes)>> = Op::kVectorBytes;
 
+// Whether an operation loads its samples itself.
+template <class Op, class = void>
+constexpr bool kLoadsItself = false;
+template <class Op>
+constexpr bool kLoadsItself<Op, std::void_t<decltype(Op::kLoads)>> = Op::kLoads;
+
 constexpr std::size_t cycle(std::size_t a, std::size_t b) { return a == 1 ? b : a; }
 
 template <class Op, class Keep, class TD, class... TS>
 struct Row {
   static constexpr std::size_t kPeriod = cycle(Op::kPeriod, Keep::kPeriod);
   static_assert(Op::kPeriod == 1 || Keep::kPeriod == 1 || Op::kPeriod == Keep::kPeriod);
-  static constexpr std::size_t kWidest = std::max({sizeof(TD), sizeof(TS)...});
+  static constexpr std::size_t kWidest =
+      kLoadsItself<Op> ? sizeof(TD) : std::max({sizeof(TD), sizeof(TS)...});
 
   template <class D>
   struct Vector {  // of a vector that starts at one phase: the loop-invariant parts
@@ -94,7 +104,11 @@ struct Row {
 
   template <class D>
   static HWY_INLINE hn::Vec<D> compute(D d, const Op& op, const Vector<D>& k, const TS*... src) {
-    return op.vector(d, k.op, hn::LoadU(hn::Rebind<TS, D>(), src)...);
+    if constexpr (kLoadsItself<Op>) {
+      return op.vector(d, k.op, src...);
+    } else {
+      return op.vector(d, k.op, hn::LoadU(hn::Rebind<TS, D>(), src)...);
+    }
   }
 
   static HWY_INLINE void samples(const Op& op, std::size_t phase, std::size_t n, TD* dst,
