@@ -51,7 +51,11 @@ struct BitSource {
 
   HWY_INLINE BitSource(const std::uint8_t* p, std::size_t bytes)
       : bits(p), lastAt(bytes < 8 ? 0 : bytes - 8) {
-    std::memcpy(&last, p + lastAt, std::min<std::size_t>(bytes, 8));
+    if (bytes >= 8) {
+      last = load64(lastAt);
+    } else {
+      std::memcpy(&last, p, bytes);
+    }
   }
 
   // Pixels of a vector from a bit of a window on.

@@ -60,8 +60,10 @@ struct ScaleDown32 : NarrowingOp {
   }
 };
 
-// Results that are infinite or no number give 0: the conversion of the processor makes -2^31 of
-// them, which saturates.
+// x * k + b of x within the range, two roundings. kFull: the ends give 0 and 255 or results beyond;
+// samples below the range then need no bound, as the packs saturate their results. Results that are
+// infinite or no number give 0: the conversion of the processor makes -2^31 of them.
+template <bool kFull>
 struct FromRange : NarrowingOp {
   Kel32f least, most, factor, shift;
 
@@ -71,7 +73,8 @@ struct FromRange : NarrowingOp {
   template <class D>
   HWY_INLINE hn::Vec<D> vector(D d, Nothing, const Kel32f* src) const {
     return narrowed(d, src, [&](auto df, auto v) KELI_LAMBDA {
-      const auto x = greaterElse(lessElse(v, hn::Set(df, most)), hn::Set(df, least));
+      auto x = lessElse(v, hn::Set(df, most));
+      if constexpr (!kFull) x = greaterElse(x, hn::Set(df, least));
       const hn::RebindToSigned<decltype(df)> di;
       return roundToInt(di, x * hn::Set(df, factor) + hn::Set(df, shift));
     });
@@ -85,10 +88,22 @@ struct FromRange : NarrowingOp {
   }
 };
 
+// Products with a factor that is above 0 and sums do not fall as a sample rises.
+template <class Keep>
+void ownFromRange(const Band<1>& b, Kel32f vMin, Kel32f vMax) {
+  const FromRange<false> op(vMin, vMax);
+  const Kel32f first = vMin * op.factor + op.shift, last = vMax * op.factor + op.shift;
+  if (first <= 0 && last >= 255 && std::isfinite(first) && std::isfinite(last)) {
+    mapRows<Kel32f, Kel8u, Keep>(b, FromRange<true>(vMin, vMax));
+  } else {
+    mapRows<Kel32f, Kel8u, Keep>(b, op);
+  }
+}
+
 constexpr auto kScale16u8u = kKernels<ScaleDown16, Kel16u, Kel8u>;
 constexpr auto kScale16s8u = kKernels<ScaleDown16, Kel16s, Kel8u>;
 constexpr auto kScale32s8u = kKernels<ScaleDown32, Kel32s, Kel8u>;
-constexpr auto kFromRange = kKernels<FromRange, Kel32f, Kel8u, Kel32f, Kel32f>;
+constexpr convert::RangeRows kFromRange = {ownFromRange<KeepNone>, ownFromRange<KeepOthers<4, 3>>};
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();

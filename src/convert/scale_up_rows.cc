@@ -14,15 +14,44 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
+// For every byte of a vector, the byte of the source that it repeats.
+template <std::size_t kRepeats>
+struct RepeatedPlaces {
+  static constexpr std::array<Kel8u, 32> make() {
+    std::array<Kel8u, 32> a{};
+    for (std::size_t i = 0; i < a.size(); ++i) a[i] = static_cast<Kel8u>(i / kRepeats);
+    return a;
+  }
+  static constexpr std::array<Kel8u, 32> kPlaces = make();
+};
+
+// As many bytes as D has lanes, each repeated in all bytes of its lane: a product with 1 + 2^8 + ...
+// by one shuffle. The bytes are loaded into every 16 of the vector.
+template <class D>
+HWY_INLINE hn::Vec<D> repeated(D d, const Kel8u* src) {
+  constexpr std::size_t kLanes = hn::MaxLanes(D()), kRepeats = sizeof(hn::TFromD<D>);
+  const hn::Repartition<Kel8u, D> d8;
+  const auto places = hn::LoadU(d8, RepeatedPlaces<kRepeats>::kPlaces.data());
+  if constexpr (kLanes == 16) {
+    return hn::BitCast(d, hn::TableLookupBytes(hn::LoadDup128(d8, src), places));
+  } else {
+    using Bytes = hwy::UnsignedFromSize<kLanes>;
+    const Bytes bytes = load(reinterpret_cast<const Bytes*>(src));
+    const auto all = hn::BitCast(d8, hn::Set(hn::Repartition<Bytes, D>(), bytes));
+    return hn::BitCast(d, hn::TableLookupBytes(all, places));
+  }
+}
+
 // T: the unsigned type of the destination's width.
 template <class T, bool kSigned>
 struct ScaleUp : WideningOp {
+  static constexpr bool kLoads = true;
   static constexpr T kFactor = static_cast<T>(~T{0}) / 255;
   static constexpr T kLeast = kSigned ? static_cast<T>(T{1} << (8 * sizeof(T) - 1)) : T{0};
 
-  template <class D, class V>
-  HWY_INLINE hn::Vec<D> vector(D d, Nothing, V v) const {
-    return hn::Xor(hn::PromoteTo(d, v) * hn::Set(d, kFactor), hn::Set(d, kLeast));
+  template <class D>
+  HWY_INLINE hn::Vec<D> vector(D d, Nothing, const Kel8u* src) const {
+    return hn::Xor(repeated(d, src), hn::Set(d, kLeast));
   }
   HWY_INLINE T scalar(std::size_t, Kel8u v) const {
     return static_cast<T>(static_cast<T>(v * kFactor) ^ kLeast);
@@ -30,6 +59,7 @@ struct ScaleUp : WideningOp {
 };
 
 struct ToRange : WideningOp {
+  static constexpr std::size_t kVectorBytes = 64;
   Kel32f factor, least;
 
   HWY_INLINE ToRange(Kel32f vMin, Kel32f vMax) : factor((vMax - vMin) / 255), least(vMin) {}
