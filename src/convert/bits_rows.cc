@@ -120,9 +120,9 @@ void ownBitsToBytes(const Band<1>& b, std::size_t offset) {
       spreadFew(source, offset, b.n, dst);
     } else {
       const bool isLong = b.n >= kLongRow;
-      const std::size_t head =
-          b.n < kBytes ? b.n
-                       : isLong ? (0 - reinterpret_cast<std::uintptr_t>(dst)) % kBytes : 0;
+      const std::size_t head = b.n < kBytes ? b.n
+                               : isLong     ? (0 - reinterpret_cast<std::uintptr_t>(dst)) % kBytes
+                                            : 0;
       if (head != 0) spreadFew(source, offset, head, dst);
       if (head == b.n) continue;
       spread<kBytes>(source, offset + head, b.n - head, b.streams && isLong, dst + head);

@@ -27,7 +27,7 @@ struct WideningOp {
 // Reads more than it writes, and computes on all that it reads: long vectors pay.
 struct NarrowingOp {
   static constexpr std::size_t kPeriod = 1;
-  static constexpr std::size_t kUnroll = 2;
+  static constexpr std::size_t kUnroll = 4;
   static constexpr std::size_t kVectorBytes = 64;
   static constexpr bool kLoads = true;
   template <class D>

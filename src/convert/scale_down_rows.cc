@@ -1,6 +1,6 @@
 // Row kernels of Scale to 8u. Of integers the nearest to t / 257 (16 bits) and t / 16843009 (32
-// bits), t = src - least: these divisors are 65535 / 255 and (2^32 - 1) / 255, and odd, so there are
-// no ties. Of floats x * k + b, two roundings, to the nearest integer.
+// bits), t = src - least: these divisors are 65535 / 255 and (2^32 - 1) / 255, and odd, so there
+// are no ties. Of floats x * k + b, two roundings, to the nearest integer.
 #include <cmath>
 
 #define KELI_ENABLE_AVX512
@@ -39,11 +39,12 @@ struct ScaleDown16 : NarrowingOp {
   }
 };
 
-// (t - (t >> 8) + 2^23 - 1 + (t >> 31)) >> 24. It never falls as t rises, so it is right if it is at
-// both sides of each step, from q to q + 1 at T = 0x01010101 * q + 0x808081 (16843009 * (q + 1 / 2)
-// rounded up). There t - (t >> 8) is 2^24 * q + 2^23 + 1, less 1 from q = 127 on, where the shift
-// carries; for T - 1 it is 2^24 * q + 2^23, less 1 from q = 128 on. So what is added must be 2^23 - 1
-// up to T - 1 for q = 127 and 2^23 from T for q = 127 on, which is 2^31. In terms of src = t - 2^31:
+// (t - (t >> 8) + 2^23 - 1 + (t >> 31)) >> 24. It never falls as t rises, so it is right if it is
+// at both sides of each step, from q to q + 1 at T = 0x01010101 * q + 0x808081 (16843009 * (q + 1 /
+// 2) rounded up). There t - (t >> 8) is 2^24 * q + 2^23 + 1, less 1 from q = 127 on, where the
+// shift carries; for T - 1 it is 2^24 * q + 2^23, less 1 from q = 128 on. So what is added must be
+// 2^23 - 1 up to T - 1 for q = 127 and 2^23 from T for q = 127 on, which is 2^31. In terms of src =
+// t - 2^31:
 // ((src - (src >> 8) + (src >> 31)) >> 24) + 128, where nothing overflows.
 struct ScaleDown32 : NarrowingOp {
   template <class D>

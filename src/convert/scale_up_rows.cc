@@ -25,8 +25,8 @@ struct RepeatedPlaces {
   static constexpr std::array<Kel8u, 32> kPlaces = make();
 };
 
-// As many bytes as D has lanes, each repeated in all bytes of its lane: a product with 1 + 2^8 + ...
-// by one shuffle. The bytes are loaded into every 16 of the vector.
+// As many bytes as D has lanes, each repeated in all bytes of its lane: a product with 1 + 2^8 +
+// ... by one shuffle. The bytes are loaded into every 16 of the vector.
 template <class D>
 HWY_INLINE hn::Vec<D> repeated(D d, const Kel8u* src) {
   constexpr std::size_t kLanes = hn::MaxLanes(D()), kRepeats = sizeof(hn::TFromD<D>);

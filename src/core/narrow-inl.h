@@ -1,6 +1,6 @@
 // Vectors of narrower samples from several vectors of wider ones, saturated. Packs of vectors of
-// more than 16 bytes work on 16 bytes of each source at a time: one permutation of 32-bit words sets
-// right what they have put out of order.
+// more than 16 bytes work on 16 bytes of each source at a time: one permutation of 32-bit words
+// sets right what they have put out of order.
 #if defined(KELI_CORE_NARROW_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_CORE_NARROW_INL_H_
 #undef KELI_CORE_NARROW_INL_H_

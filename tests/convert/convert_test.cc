@@ -173,8 +173,22 @@ std::vector<T> decisiveValues() {
       }
     }
   } else {
-    all = {T{0}, -T{0}, kInf, -kInf, L::quiet_NaN(), -L::quiet_NaN(), L::max(), -L::max(),
-           L::denorm_min(), -L::denorm_min(), 300.7f, -4.2f, 0x1p31f, -0x1p31f, 0x1p32f, -0x1p33f};
+    all = {T{0},
+           -T{0},
+           kInf,
+           -kInf,
+           L::quiet_NaN(),
+           -L::quiet_NaN(),
+           L::max(),
+           -L::max(),
+           L::denorm_min(),
+           -L::denorm_min(),
+           300.7f,
+           -4.2f,
+           0x1p31f,
+           -0x1p31f,
+           0x1p32f,
+           -0x1p33f};
     for (int twice = -2 * 32770; twice <= 2 * 65537; ++twice) {
       const bool edge = std::abs(twice) < 1000 || std::abs(twice) > 2 * 32700;
       const T half = static_cast<T>(twice) / 2;
@@ -189,9 +203,9 @@ struct Range {
   Kel32f vMin, vMax;
 };
 // Usual ones, one whose results miss 0 and 255 by roundings, and those that are no numbers.
-constexpr Range kRanges[] = {{0, 1}, {0, 255}, {-1, 1}, {-50, 201}, {1e8f, 1e8f + 16},
-                             {-3e38f, 3e38f}, {0, kInf}, {-kInf, 0}, {-kInf, kInf}, {0, 1e-42f},
-                             {1e30f, 1.0000001e30f}};
+constexpr Range kRanges[] = {
+    {0, 1},    {0, 255},   {-1, 1},       {-50, 201},  {1e8f, 1e8f + 16},     {-3e38f, 3e38f},
+    {0, kInf}, {-kInf, 0}, {-kInf, kInf}, {0, 1e-42f}, {1e30f, 1.0000001e30f}};
 
 // A call of a C1 member on all decisive values; modes and ranges take turns.
 TestCall decisiveCall(const Function& f, std::size_t turn) {
@@ -216,7 +230,7 @@ TestCall decisiveCall(const Function& f, std::size_t turn) {
 }
 
 std::size_t turnsOf(const Function& f) {
-  return checks(f, registry::Check::kSpan) ? std::size(kRanges)
+  return checks(f, registry::Check::kSpan)   ? std::size(kRanges)
          : f.arguments[0].type == Type::k32f ? 4
                                              : 1;
 }
