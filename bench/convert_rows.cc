@@ -27,7 +27,7 @@ std::vector<Row> convertRows() {
     Choices choices;
     choices.bitOffset = offset;
     rows.push_back({"keliConvert_1u8u_C1R", Limit::kMove, choices});
-    rows.push_back({"keliConvert_8u1u_C1R", Limit::kFold, choices});
+    rows.push_back({"keliConvert_8u1u_C1R", Limit::kRead, choices});
   }
   return rows;
 }
