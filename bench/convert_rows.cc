@@ -1,6 +1,6 @@
 // Rows of conversions and scalings. Those that make smaller samples are bound by reading large ones
-// and writing small ones, those that make larger ones by the opposite. AC4 rewrites its
-// destination.
+// and writing small ones, those that make larger ones by the opposite. AC4 must also bring in the
+// lines of which it keeps a quarter, which the limit does not know.
 #include "tables.h"
 
 namespace keli::bench {
