@@ -322,6 +322,237 @@ KELI_API KelStatus keliSwapChannels_32s_AC4R(const Kel32s* pSrc, int srcStep, Ke
 KELI_API KelStatus keliSwapChannels_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const int dstOrder[3]);
 KELI_API KelStatus keliSwapChannels_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const int dstOrder[3]);
 
+/* ==== Conversion and scaling between types of samples ==== */
+
+/**
+ * Converts the samples of an image to a type that holds all their values.
+ *
+ *     dst = src
+ *
+ * Every result is exact. AC4 leaves the destination's fourth channel alone.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliConvert_8u16u_C1R(const Kel8u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u16u_C3R(const Kel8u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u16u_C4R(const Kel8u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u16u_AC4R(const Kel8u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u16s_C1R(const Kel8u* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u16s_C3R(const Kel8u* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u16s_C4R(const Kel8u* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u16s_AC4R(const Kel8u* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u32s_C1R(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u32s_C3R(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u32s_C4R(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u32s_AC4R(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8s32s_C1R(const Kel8s* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8s32s_C3R(const Kel8s* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8s32s_C4R(const Kel8s* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8s32s_AC4R(const Kel8s* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u32f_C1R(const Kel8u* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u32f_C3R(const Kel8u* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u32f_C4R(const Kel8u* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8u32f_AC4R(const Kel8u* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8s32f_C1R(const Kel8s* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8s32f_C3R(const Kel8s* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8s32f_C4R(const Kel8s* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_8s32f_AC4R(const Kel8s* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16u32f_C1R(const Kel16u* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16u32f_C3R(const Kel16u* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16u32f_C4R(const Kel16u* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16u32f_AC4R(const Kel16u* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16s32f_C1R(const Kel16s* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16s32f_C3R(const Kel16s* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16s32f_C4R(const Kel16s* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16s32f_AC4R(const Kel16s* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts the samples of an image to a narrower type of integers.
+ *
+ *     dst = min(max(src, least), most)
+ *
+ * least and most are the ends of the destination type's range: 0 and 255 for 8u, -128 and 127
+ * for 8s. AC4 leaves the destination's fourth channel alone.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliConvert_16u8u_C1R(const Kel16u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16u8u_C3R(const Kel16u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16u8u_C4R(const Kel16u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16u8u_AC4R(const Kel16u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16s8u_C1R(const Kel16s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16s8u_C3R(const Kel16s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16s8u_C4R(const Kel16s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_16s8u_AC4R(const Kel16s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_32s8u_C1R(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_32s8u_C3R(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_32s8u_C4R(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_32s8u_AC4R(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_32s8s_C1R(const Kel32s* pSrc, int srcStep, Kel8s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_32s8s_C3R(const Kel32s* pSrc, int srcStep, Kel8s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_32s8s_C4R(const Kel32s* pSrc, int srcStep, Kel8s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliConvert_32s8s_AC4R(const Kel32s* pSrc, int srcStep, Kel8s* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Rounds the samples of an image to integers.
+ *
+ *     dst = round(max(min(src, most), least))
+ *
+ * least and most are the ends of the destination type's range. A NaN gives most, an infinity
+ * the end on its side. With roundMode kelRoundNearest, round() is to the nearest integer and to
+ * the even one of two that are as near (2.5 gives 2, 3.5 gives 4); with any other value it cuts
+ * the fraction off (2.7 gives 2, -2.7 gives -2). The caller's floating-point rounding mode has
+ * no influence, and is not changed. AC4 leaves the destination's fourth channel alone.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliConvert_32f8u_C1R(const Kel32f* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f8u_C3R(const Kel32f* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f8u_C4R(const Kel32f* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f8u_AC4R(const Kel32f* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f8s_C1R(const Kel32f* pSrc, int srcStep, Kel8s* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f8s_C3R(const Kel32f* pSrc, int srcStep, Kel8s* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f8s_C4R(const Kel32f* pSrc, int srcStep, Kel8s* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f8s_AC4R(const Kel32f* pSrc, int srcStep, Kel8s* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f16u_C1R(const Kel32f* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f16u_C3R(const Kel32f* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f16u_C4R(const Kel32f* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f16u_AC4R(const Kel32f* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f16s_C1R(const Kel32f* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f16s_C3R(const Kel32f* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f16s_C4R(const Kel32f* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+KELI_API KelStatus keliConvert_32f16s_AC4R(const Kel32f* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KelRoundMode roundMode);
+
+/**
+ * Makes bytes of the pixels of an image of one bit each.
+ *
+ *     dst = src ? 255 : 0
+ *
+ * A byte of the source holds eight pixels, the first in its most significant bit. pSrc and
+ * srcStep lead to the byte that holds the first pixel of a row, and srcBitOffset, 0..7, says in
+ * which bit of it that stands, counted from the most significant one; it is the same for all
+ * rows. Bytes beyond the one that holds the last pixel of a row are not read.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusBadRange if the
+ * bit offset is outside 0..7.
+ */
+KELI_API KelStatus keliConvert_1u8u_C1R(const Kel8u* pSrc, int srcStep, int srcBitOffset, Kel8u* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Makes an image of one bit for each pixel: set where a byte is above a threshold.
+ *
+ *     dst = src > threshold ? 1 : 0
+ *
+ * A byte of the destination holds eight pixels, the first in its most significant bit. pDst and
+ * dstStep lead to the byte that holds the first pixel of a row, and dstBitOffset, 0..7, says in
+ * which bit of it that stands, counted from the most significant one; it is the same for all
+ * rows. The bits of a row's first and last byte that belong to no pixel of the region keep
+ * their values. These two bytes are read and written as a whole: regions that share one must
+ * not be worked on at the same time.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusBadRange if the
+ * bit offset is outside 0..7.
+ */
+KELI_API KelStatus keliConvert_8u1u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, int dstBitOffset, KeliSize roiSize, Kel8u threshold);
+
+/**
+ * Maps the samples of an image from the range of their type onto that of a wider one.
+ *
+ *     dst = least + src * (most - least) / 255
+ *
+ * least and most are the ends of the destination type's range, so that 0 gives least and 255
+ * gives most. The factor is an integer, 257 for 16 bits and 16843009 for 32, and every result
+ * exact. AC4 leaves the destination's fourth channel alone.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliScale_8u16u_C1R(const Kel8u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliScale_8u16u_C3R(const Kel8u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliScale_8u16u_C4R(const Kel8u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliScale_8u16u_AC4R(const Kel8u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliScale_8u16s_C1R(const Kel8u* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliScale_8u16s_C3R(const Kel8u* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliScale_8u16s_C4R(const Kel8u* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliScale_8u16s_AC4R(const Kel8u* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliScale_8u32s_C1R(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliScale_8u32s_C3R(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliScale_8u32s_C4R(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliScale_8u32s_AC4R(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Maps the samples of an image from the range of their type onto that of 8u.
+ *
+ *     dst = round((src - least) * 255 / (most - least))
+ *
+ * least and most are the ends of the source type's range. The quotient is rounded to the
+ * nearest integer; it never lies half-way between two, as (most - least) / 255 is odd. hint may
+ * take any value: both ways of computing that it tells apart give these results. AC4 leaves the
+ * destination's fourth channel alone.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliScale_16u8u_C1R(const Kel16u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelHintAlgorithm hint);
+KELI_API KelStatus keliScale_16u8u_C3R(const Kel16u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelHintAlgorithm hint);
+KELI_API KelStatus keliScale_16u8u_C4R(const Kel16u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelHintAlgorithm hint);
+KELI_API KelStatus keliScale_16u8u_AC4R(const Kel16u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelHintAlgorithm hint);
+KELI_API KelStatus keliScale_16s8u_C1R(const Kel16s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelHintAlgorithm hint);
+KELI_API KelStatus keliScale_16s8u_C3R(const Kel16s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelHintAlgorithm hint);
+KELI_API KelStatus keliScale_16s8u_C4R(const Kel16s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelHintAlgorithm hint);
+KELI_API KelStatus keliScale_16s8u_AC4R(const Kel16s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelHintAlgorithm hint);
+KELI_API KelStatus keliScale_32s8u_C1R(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelHintAlgorithm hint);
+KELI_API KelStatus keliScale_32s8u_C3R(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelHintAlgorithm hint);
+KELI_API KelStatus keliScale_32s8u_C4R(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelHintAlgorithm hint);
+KELI_API KelStatus keliScale_32s8u_AC4R(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelHintAlgorithm hint);
+
+/**
+ * Maps the samples of an image from 0..255 onto a range of floats.
+ *
+ *     dst = src * k + vMin, k = (vMax - vMin) / 255
+ *
+ * Each operation is rounded to single precision, to the nearest number, whatever the rounding
+ * mode of the caller, which is kept. So 0 gives vMin, and 255 may miss vMax by a rounding. The
+ * range is checked before everything else, pointers included; one with a NaN is empty. Bounds
+ * that are infinite, or so far apart that their difference is, give what the formula gives in
+ * IEEE 754 arithmetic: infinities and NaNs. AC4 leaves the destination's fourth channel alone.
+ *
+ * Checks, in order: kelStatusEmptyRange if not vMax - vMin > 0; kelStatusNullPointer if a
+ * pointer is null; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliScale_8u32f_C1R(const Kel8u* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, Kel32f vMin, Kel32f vMax);
+KELI_API KelStatus keliScale_8u32f_C3R(const Kel8u* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, Kel32f vMin, Kel32f vMax);
+KELI_API KelStatus keliScale_8u32f_C4R(const Kel8u* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, Kel32f vMin, Kel32f vMax);
+KELI_API KelStatus keliScale_8u32f_AC4R(const Kel8u* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, Kel32f vMin, Kel32f vMax);
+
+/**
+ * Maps the samples of an image from a range of floats onto 0..255.
+ *
+ *     dst = round(x * k + b), x = max(min(src, vMax), vMin), k = 255 / (vMax - vMin), b = -vMin * k
+ *
+ * Each operation is rounded to single precision, to the nearest number, and round() is to the
+ * nearest integer, ties to even, whatever the rounding mode of the caller, which is kept; the
+ * result saturates to 0..255. A NaN gives what vMax gives. The range is checked before
+ * everything else, pointers included; one with a NaN is empty. Where x * k + b is infinite or
+ * no number, which takes an infinite bound, or bounds so close that k is infinite, the result
+ * is 0; bounds whose difference is infinite make k zero and so give 0 everywhere. AC4 leaves
+ * the destination's fourth channel alone.
+ *
+ * Checks, in order: kelStatusEmptyRange if not vMax - vMin > 0; kelStatusNullPointer if a
+ * pointer is null; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliScale_32f8u_C1R(const Kel32f* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f vMin, Kel32f vMax);
+KELI_API KelStatus keliScale_32f8u_C3R(const Kel32f* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f vMin, Kel32f vMax);
+KELI_API KelStatus keliScale_32f8u_C4R(const Kel32f* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f vMin, Kel32f vMax);
+KELI_API KelStatus keliScale_32f8u_AC4R(const Kel32f* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f vMin, Kel32f vMax);
+
 /* ==== Addition, subtraction, multiplication ==== */
 
 /**

@@ -9,6 +9,9 @@
 // A keeper (Keep) tells which destination samples are written: all, or the first kUsed of every
 // kPeriod; the row then ends with the last sample written, and nothing after it is touched.
 //
+// An operation that makes narrower samples has a constant kLoads, and is given the sources'
+// pointers where others are given vectors: it loads several for a whole vector of the destination.
+//
 // Rows of at least a vector: the last vector is computed first and stored last, which is right in
 // place too. Shorter rows: the same with vectors of 16, 8 and 4 bytes, then samples. Vectors are of
 // 32 bytes at most: longer ones measured slower, in the caches and beyond. An operation whose
@@ -73,13 +76,20 @@ constexpr std::size_t kMostBytes = 32;
 template <class Op>
 constexpr std::size_t kMostBytes<Op, std::void_t<decltype(Op::kVectorBytes)>> = Op::kVectorBytes;
 
+// Whether an operation loads its samples itself.
+template <class Op, class = void>
+constexpr bool kLoadsItself = false;
+template <class Op>
+constexpr bool kLoadsItself<Op, std::void_t<decltype(Op::kLoads)>> = Op::kLoads;
+
 constexpr std::size_t cycle(std::size_t a, std::size_t b) { return a == 1 ? b : a; }
 
 template <class Op, class Keep, class TD, class... TS>
 struct Row {
   static constexpr std::size_t kPeriod = cycle(Op::kPeriod, Keep::kPeriod);
   static_assert(Op::kPeriod == 1 || Keep::kPeriod == 1 || Op::kPeriod == Keep::kPeriod);
-  static constexpr std::size_t kWidest = std::max({sizeof(TD), sizeof(TS)...});
+  static constexpr std::size_t kWidest =
+      kLoadsItself<Op> ? sizeof(TD) : std::max({sizeof(TD), sizeof(TS)...});
 
   template <class D>
   struct Vector {  // of a vector that starts at one phase: the loop-invariant parts
@@ -94,7 +104,11 @@ struct Row {
 
   template <class D>
   static HWY_INLINE hn::Vec<D> compute(D d, const Op& op, const Vector<D>& k, const TS*... src) {
-    return op.vector(d, k.op, hn::LoadU(hn::Rebind<TS, D>(), src)...);
+    if constexpr (kLoadsItself<Op>) {
+      return op.vector(d, k.op, src...);
+    } else {
+      return op.vector(d, k.op, hn::LoadU(hn::Rebind<TS, D>(), src)...);
+    }
   }
 
   static HWY_INLINE void samples(const Op& op, std::size_t phase, std::size_t n, TD* dst,
@@ -163,8 +177,17 @@ struct Row {
     }
   }
 
+  // Samples before the first that starts a block of kBytes, or none if no sample does.
+  template <std::size_t kBytes, class T, class... Others>
+  static HWY_INLINE std::size_t samplesToBlock(const T* p, const Others*...) {
+    const std::size_t missing = (0 - reinterpret_cast<std::uintptr_t>(p)) % kBytes;
+    return missing % sizeof(T) == 0 ? missing / sizeof(T) : 0;
+  }
+
   // Stores that straddle cache lines cost a third of the speed in the second-level cache, and those
   // around the caches need alignment: a long row's first samples are set apart up to the next line.
+  // Where more is read than stored, loads that straddle lines cost as much, and are set on them
+  // instead.
   static HWY_INLINE void run(const Op& op, bool streams, std::size_t n, TD* dst, const TS*... src) {
     if constexpr (kScalarTarget) {
       samples(op, 0, n, dst, src...);
@@ -176,16 +199,19 @@ struct Row {
       constexpr bool kWhole = kN * sizeof(TD) == kVectorBytes;
       constexpr std::size_t kLine = std::min<std::size_t>(2 * kVectorBytes, 64);
       constexpr std::size_t kLong = 1024 / sizeof(TD);
-      const std::size_t misaligned = reinterpret_cast<std::uintptr_t>(dst) % kLine;
+      constexpr bool kReadsMore = kLoadsItself<Op> && (sizeof(TS) + ... + 0) > sizeof(TD);
       std::size_t head = 0;
       if (n < 2 * kN) {
         head = n;
-      } else if (kWhole && n >= kLong && misaligned % sizeof(TD) == 0) {
-        head = (kLine - misaligned) % kLine / sizeof(TD);
+      } else if (kWhole && n >= kLong) {
+        head = samplesToBlock<kLine>(dst);
+        if constexpr (kReadsMore) {
+          if (!streams) head = samplesToBlock<kLine>(src...);
+        }
       }
       if (head != 0) shorter<kVectorBytes>(op, head, dst, src...);
       if (head == n) return;
-      const bool aligned = (misaligned + head * sizeof(TD)) % kLine == 0;
+      const bool aligned = reinterpret_cast<std::uintptr_t>(dst + head) % kLine == 0;
       if (Keep::kPeriod == 1 && kWhole && streams && aligned) {
         vectors<true>(D(), op, head % kPeriod, n - head, dst + head, (src + head)...);
       } else {

@@ -279,6 +279,8 @@ HWY_INLINE hn::Vec<D> packSaturated([[maybe_unused]] D d, [[maybe_unused]] VW lo
   } else {
     if constexpr (std::is_same_v<T, std::uint8_t>) {
       return hn::Vec<D>{_mm512_packus_epi16(lo.raw, hi.raw)};
+    } else if constexpr (std::is_same_v<T, std::int8_t>) {
+      return hn::Vec<D>{_mm512_packs_epi16(lo.raw, hi.raw)};
     } else if constexpr (std::is_same_v<T, std::uint16_t>) {
       return hn::Vec<D>{_mm512_packus_epi32(lo.raw, hi.raw)};
     } else {
@@ -308,20 +310,36 @@ HWY_INLINE hn::Vec<D> shiftRightBy([[maybe_unused]] D d, hn::Vec<D> v, int count
 #endif
 }
 
-// Each lane of floats rounded to the nearest integer, ties to even, whatever the rounding mode of
-// the caller; all are below 2^31 in size, so that no lane needs the library's care for overflow.
+// Each lane of floats without its fraction. A lane of 2^31 or more in size, and one that is no
+// number, gives -2^31 on x86 and is the caller's care elsewhere.
 template <class DI, class V>
-HWY_INLINE hn::Vec<DI> roundToInt([[maybe_unused]] DI di, V v) {
-  const V rounded = hn::Round(v);
+HWY_INLINE hn::Vec<DI> truncateToInt([[maybe_unused]] DI di, V v) {
 #if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
   if constexpr (hn::MaxLanes(DI()) == 8) {
-    return hn::Vec<DI>{_mm256_cvttps_epi32(rounded.raw)};
+    return hn::Vec<DI>{_mm256_cvttps_epi32(v.raw)};
+#if HWY_TARGET == HWY_AVX3_DL
+  } else if constexpr (hn::MaxLanes(DI()) == 16) {
+    return hn::Vec<DI>{_mm512_cvttps_epi32(v.raw)};
+#endif
   } else {
-    return hn::Vec<DI>{_mm_cvttps_epi32(rounded.raw)};
+    return hn::Vec<DI>{_mm_cvttps_epi32(v.raw)};
   }
 #else
-  return hn::ConvertTo(di, rounded);
+  return hn::ConvertTo(di, v);
 #endif
+}
+
+// Each lane of floats rounded to the nearest integer, ties to even, whatever the rounding mode of
+// the caller; as with truncateToInt, no lane is given the library's care for overflow.
+template <class DI, class V>
+HWY_INLINE hn::Vec<DI> roundToInt(DI di, V v) {
+#if HWY_TARGET == HWY_AVX3_DL
+  if constexpr (hn::MaxLanes(DI()) == 16) {
+    return hn::Vec<DI>{
+        _mm512_cvt_roundps_epi32(v.raw, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC)};
+  }
+#endif
+  return truncateToInt(di, hn::Round(v));
 }
 
 // All bits of the samples whose position in a cycle of kPeriod is below kUsed, long enough to load
