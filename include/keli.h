@@ -3144,11 +3144,11 @@ KELI_API KelStatus keliHistogramEven_16s_AC4R(const Kel16s* pSrc, int srcStep, K
  * operation in single precision. Columns and rows outside srcROI are replaced by its nearest
  * ones. 8u: rounded to the nearest integer, ties to even, and saturated.
  *
- * A source image one pixel wide or high is always sampled by the nearest pixel, and one with
- * fewer than four columns or rows not cubically but linearly. Neighbours that are infinite or
- * not numbers take part even at weight 0; results that are not numbers are the quiet NaN
- * 0x7FC00000. AC4 leaves the fourth sample of every destination pixel as it was. The maps and
- * the source must not overlap the destination.
+ * Results do not depend on the caller's rounding mode. A source image one pixel wide or high is
+ * always sampled by the nearest pixel, and one with fewer than four columns or rows not
+ * cubically but linearly. Neighbours that are infinite or not numbers take part even at weight
+ * 0; results that are not numbers are the quiet NaN 0x7FC00000. AC4 leaves the fourth sample of
+ * every destination pixel as it was. The maps and the source must not overlap the destination.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if srcSize,
  * srcROI or dstRoiSize is below 1 in width or height, or srcROI.x or srcROI.y is below 0;

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "core/band.h"
+#include "core/rounding_mode.h"
 #include "remap/remap_rows.h"
 
 namespace keli::remap {
@@ -67,6 +68,7 @@ template <class T, Layout kLayout, class Source, class Destination>
 KelStatus remap(Source src, KeliSize srcSize, int srcStep, KeliRect region, const Kel32f* xMap,
                 int xMapStep, const Kel32f* yMap, int yMapStep, Destination dst, int dstStep,
                 KeliSize dstSize, KelInterpolation mode) {
+  const core::RoundToNearest weights;
   if (mode == kelInterpolationCubic && (srcSize.width < 4 || srcSize.height < 4))
     mode = kelInterpolationLinear;
   if (srcSize.width == 1 || srcSize.height == 1) mode = kelInterpolationNearest;

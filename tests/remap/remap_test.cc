@@ -2,6 +2,7 @@
 // a bound: every member and mode, sources and regions of any size, on every target.
 #include <gtest/gtest.h>
 
+#include <cfenv>
 #include <cmath>
 
 #include "reference/pointwise.h"
@@ -257,6 +258,23 @@ TEST(Remap, CoordinatesAtTheEnds) {
     grid.size = {12, 3};
     EXPECT_EQ(grid.at(3.75f, 0, 4), 4);
     EXPECT_EQ(grid.at(3.75f, 1.25f, 4), grid.at(3.75f, 1.25f, 2));
+  }
+}
+
+TEST(Remap, SameInEveryRoundingMode) {
+  const Function& f = *registry::find("keliRemap_8u_C1R");
+  for (const std::int64_t mode : {2, 4}) {
+    std::vector<std::uint8_t> expected;
+    for (const int rounding : {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
+      TestCall call(f, {5000, 2, 0, Place::kMiddle, 0}, 5);
+      call.values[call.find(Role::kInterpolation)].i = mode;
+      std::fesetround(rounding);
+      call.run();
+      EXPECT_EQ(std::fegetround(), rounding);
+      std::fesetround(FE_TONEAREST);
+      if (expected.empty()) expected = call.outcome();
+      ASSERT_EQ(call.outcome(), expected) << "mode " << mode << " rounding " << rounding;
+    }
   }
 }
 
