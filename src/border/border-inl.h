@@ -23,14 +23,16 @@ template <std::size_t kPixel, std::size_t kUsed>
 struct BorderRow {
   using Band = border::BorderBand;
   static constexpr bool kAll = kUsed == kPixel;
-  // Samples of AC4, so that the fourth may be kept; bytes else.
-  using T = std::conditional_t<
-      kAll || kPixel == 4, std::uint8_t,
-      std::conditional_t<kPixel == 8, std::uint16_t, std::uint32_t>>;
+  // Of one channel; whole pixels where they are no longer than a sample may be.
+  static constexpr std::size_t kSample = kPixel % 3 == 0        ? kPixel / 3
+                                         : kAll && kPixel <= 4 ? kPixel
+                                                               : kPixel / 4;
+  using Sample = std::conditional_t<
+      kSample == 1, std::uint8_t,
+      std::conditional_t<kSample == 2, std::uint16_t, std::uint32_t>>;
+  using T = std::conditional_t<kAll, std::uint8_t, Sample>;  // what is copied
   using Keep = std::conditional_t<kAll, KeepNone, KeepOthers<4, 3>>;
   using Copy = map::Row<Identity, Keep, T, T>;
-  static constexpr std::size_t kLong = 1024;  // bytes from which on rows are set on cache lines
-
   template <class D>
   static HWY_INLINE void put(D d, hn::Vec<D> v, std::uint8_t* dst) {
     if constexpr (kAll) {
@@ -40,36 +42,43 @@ struct BorderRow {
     }
   }
 
-  // Of bytes of any number of pixels.
-  static HWY_NOINLINE void copyLong(const std::uint8_t* src, std::uint8_t* dst, std::size_t count,
-                                    bool streams) {
+  // The source's part of a row, where too few bytes or stores around the caches are to be copied.
+  static HWY_NOINLINE void copySamples(const std::uint8_t* src, std::uint8_t* dst,
+                                       std::size_t count, bool streams) {
     Copy::run(Identity(), streams, count / sizeof(T) - Keep::kTrim, reinterpret_cast<T*>(dst),
               reinterpret_cast<const T*>(src));
   }
-  static HWY_NOINLINE void copyShort(const std::uint8_t* src, std::uint8_t* dst,
-                                     std::size_t count) {
-    Copy::template shorter<32>(Identity(), count / sizeof(T) - Keep::kTrim,
-                               reinterpret_cast<T*>(dst), reinterpret_cast<const T*>(src));
-  }
+
+  // count: bytes of whole pixels. From kLong on, rows are set on cache lines by vectors that overlap.
   static HWY_INLINE void copy(const std::uint8_t* src, std::uint8_t* dst, std::size_t count) {
     const hn::CappedTag<std::uint8_t, 32> d;
-    constexpr std::size_t kN = hn::MaxLanes(d);
-    if (count >= kLong) return copyLong(src, dst, count, false);
-    if (count < kN) return copyShort(src, dst, count);
+    constexpr std::size_t kN = hn::MaxLanes(d), kLine = 64, kLong = 192;
+    if (count < kN) return copySamples(src, dst, count, false);
     const std::size_t end = count - kN;
-    for (std::size_t x = 0; x < end; x += kN) put(d, hn::LoadU(d, src + x), dst + x);
-    put(d, hn::LoadU(d, src + end), dst + end);
+    const auto move = [&](std::size_t x) KELI_LAMBDA { put(d, hn::LoadU(d, src + x), dst + x); };
+    std::size_t x = 0;
+    if (count >= kLong) {
+      const std::size_t head = kLine - reinterpret_cast<std::uintptr_t>(dst) % kLine;
+      if (kAll || head % kPixel == 0) {
+        unrolled<kLine / kN>([&](auto u) KELI_LAMBDA { move(u * kN); });
+        x = head;
+      }
+      for (; x + kLine <= end; x += kLine)
+        unrolled<kLine / kN>([&](auto u) KELI_LAMBDA { move(x + u * kN); });
+    }
+    for (; x < end; x += kN) move(x);
+    move(end);
   }
 
-  // The source's part of a row. What margins have spilled into it is stored as they are; stores
-  // around the caches would have to drive those lines out of them.
-  static HWY_INLINE void middle(const Band& b, const std::uint8_t* src, std::uint8_t* row) {
-    std::uint8_t* const dst = row + b.left;
-    if (!kAll || !b.streams || b.middle < kLong) return copy(src, dst, b.middle);
+  // What margins have spilled into the middle is stored as they are; stores around the caches would
+  // have to drive those lines out of them.
+  static HWY_INLINE void middle(const std::uint8_t* src, std::uint8_t* dst, std::size_t count,
+                                bool streams) {
+    if (!kAll || !streams || count < 1024) return copy(src, dst, count);
     constexpr std::size_t kSpilled = 32;
     copy(src, dst, kSpilled);
-    copyLong(src + kSpilled, dst + kSpilled, b.middle - 2 * kSpilled, true);
-    const std::size_t end = b.middle - kSpilled;
+    copySamples(src + kSpilled, dst + kSpilled, count - 2 * kSpilled, true);
+    const std::size_t end = count - kSpilled;
     copy(src + end, dst + end, kSpilled);
   }
 
@@ -89,16 +98,19 @@ struct BorderRow {
     return hn::TableLookupBytes(hn::LoadDup128(d, bytes), hn::LoadU(d, kIndices.data()));
   }
 
-  // Of a row of at least a vector. The middle is as long as a vector, or left and right are alike.
+  // Makes a row of at least a vector from its source row and the vectors of its margins. The middle
+  // is as long as a vector, or the margins are alike. A local copy of the band is to be given, which
+  // no store can change.
   template <class D>
-  static HWY_INLINE void margins(D d, const Band& b, hn::Vec<D> left, hn::Vec<D> right,
-                                 std::uint8_t* row) {
+  static HWY_INLINE void make(D d, const Band& b, const std::uint8_t* src, hn::Vec<D> left,
+                              hn::Vec<D> right, std::uint8_t* row) {
     constexpr std::size_t kN = hn::MaxLanes(D());
     constexpr std::size_t kBlock = kN / kPixel * kPixel;
     const std::size_t end = b.rowBytes() - kN, farthest = end / kPixel * kPixel;
     for (std::size_t x = 0; x < b.left; x += kBlock) put(d, left, row + std::min(x, farthest));
     for (std::size_t x = 0; x < b.right; x += kBlock)
       put(d, right, row + end - std::min(x, farthest));
+    middle(src, row + b.left, b.middle, b.streams);
   }
 
   static HWY_INLINE void pixels(const std::uint8_t* pixel, std::uint8_t* dst, std::size_t count) {

@@ -34,15 +34,8 @@ KelStatus copyConst(const T* src, int srcStep, KeliSize srcSize, T* dst, int dst
   const BorderBand b =
       makeBand(src, srcStep, srcSize, dst, dstStep, dstSize, top, left, kPixel);
   const data::Pixel pixel = data::pixelOf<T, kLayout>(value);
-  const auto setRows = [&](std::uint8_t* first, int height) {
-    if (height == 0) return;
-    data::set<T, kLayout>(value, reinterpret_cast<T*>(first), dstStep, {dstSize.width, height});
-  };
-  setRows(b.dst, top);
   const ConstRows& rows = constRows();
   (kLayout == Layout::AC4 ? rows.ac4.template get<T>() : rows.whole[kPixel])(b, pixel.bytes);
-  setRows(b.dst + static_cast<std::ptrdiff_t>(b.top + b.rows) * b.dstStep,
-          static_cast<int>(b.bottom));
   return kelStatusOk;
 }
 

@@ -21,8 +21,7 @@ struct BorderBand {
   std::size_t rowBytes() const { return left + middle + right; }
 };
 
-// Of the rows that the source has, without those above and below. pixel: 16 bytes that begin with
-// the pixel's.
+// pixel: 16 bytes that begin with the pixel's.
 using ConstBand = void (*)(const BorderBand&, const std::uint8_t* pixel);
 using CopyBand = void (*)(const BorderBand&);
 

@@ -8,6 +8,7 @@
 #include <hwy/foreach_target.h>
 //
 #include "border/border-inl.h"
+#include "border/short-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
@@ -22,7 +23,6 @@ HWY_INLINE void forNearestRows(const border::BorderBand& b, const MakeRow& makeR
     makeRow(src, row);
     if (y >= b.top && y < last) src += b.srcStep;
   }
-  if (b.streams) hwy::FlushStream();
 }
 
 // Of sources of at least a vector.
@@ -31,23 +31,30 @@ HWY_INLINE void replicateRowsOf(D d, const border::BorderBand& b) {
   forNearestRows(b, [&](const std::uint8_t* src, std::uint8_t* row) KELI_LAMBDA {
     const auto left = Row::template repeated<false, 0>(d, src);
     const auto right = Row::template repeated<true, 16 - kPixel>(d, src + b.middle - 16);
-    Row::margins(d, b, left, right, row);
-    Row::middle(b, src, row);
+    Row::make(d, b, src, left, right, row);
   });
 }
 
 template <std::size_t kPixel, std::size_t kUsed = kPixel>
-void ownReplicate(const border::BorderBand& b) {
+void ownReplicate(const border::BorderBand& band) {
   using Row = BorderRow<kPixel, kUsed>;
-  if (!kScalarTarget && b.middle >= 32) {
-    replicateRowsOf<Row, kPixel>(hn::CappedTag<std::uint8_t, 32>(), b);
-  } else if (!kScalarTarget && b.middle >= 16) {
-    replicateRowsOf<Row, kPixel>(hn::CappedTag<std::uint8_t, 16>(), b);
+  if constexpr (kPermutesBytes) {
+    if (makeShort(band, [&](auto vectors) KELI_LAMBDA {
+          shortReplicate<kPixel, kUsed, vectors>(band);
+        })) {
+      return;
+    }
+  }
+  if (!kScalarTarget && band.middle >= 32) {
+    replicateRowsOf<Row, kPixel>(hn::CappedTag<std::uint8_t, 32>(), border::BorderBand(band));
+  } else if (!kScalarTarget && band.middle >= 16) {
+    replicateRowsOf<Row, kPixel>(hn::CappedTag<std::uint8_t, 16>(), border::BorderBand(band));
   } else {
-    forNearestRows(b, [&](const std::uint8_t* src, std::uint8_t* row) KELI_LAMBDA {
-      Row::shortRow(b, src, src, src + b.middle - kPixel, row);
+    forNearestRows(band, [&](const std::uint8_t* src, std::uint8_t* row) KELI_LAMBDA {
+      Row::shortRow(band, src, src, src + band.middle - kPixel, row);
     });
   }
+  if (band.streams) hwy::FlushStream();
 }
 
 const border::ReplicateRows kReplicateRows = {

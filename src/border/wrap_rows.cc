@@ -37,29 +37,31 @@ void wrapRow(const border::BorderBand& b, std::uint8_t* row) {
   }
 }
 
-void ownWrap(const border::BorderBand& b) {
+void ownWrap(const border::BorderBand& band) {
+  const border::BorderBand b = band;  // no store can change it
   // The source row whose copy is the destination's first.
   std::size_t from = (b.rows - b.top % b.rows) % b.rows;
   const std::size_t height = b.top + b.rows + b.bottom;
-  border::BorderBand around = b;  // margins that are wider are made from the destination
-  around.streams = b.streams && b.left <= b.middle && b.right <= b.middle;
+  // Margins that are wider than the source are made from the destination.
+  const bool narrow = b.left <= b.middle && b.right <= b.middle;
+  const bool streams = b.streams && narrow;
   for (std::size_t y = 0; y < height; ++y) {
     const std::uint8_t* const src = b.src + static_cast<std::ptrdiff_t>(from) * b.srcStep;
     std::uint8_t* const row = b.dst + static_cast<std::ptrdiff_t>(y) * b.dstStep;
     if (kScalarTarget) {
       std::memcpy(row + b.left, src, b.middle);
     } else {
-      BorderRow<4, 4>::middle(around, src, row);
+      BorderRow<4, 4>::middle(src, row + b.left, b.middle, streams);
     }
-    if (b.left <= b.middle && b.right <= b.middle) {
+    if (narrow) {
       copyBytes(src + b.middle - b.left, row, b.left);
       copyBytes(src, row + b.left + b.middle, b.right);
     } else {
-      wrapRow(b, row);
+      wrapRow(band, row);
     }
     from = from + 1 == b.rows ? 0 : from + 1;
   }
-  if (around.streams) hwy::FlushStream();
+  if (streams) hwy::FlushStream();
 }
 
 void ownWrapInPlace(const border::BorderBand& b) {

@@ -19,9 +19,10 @@ struct Reverse {
   static constexpr bool kAll = kUsed == kPixel;
   static constexpr std::size_t kLong = 1024;  // bytes from which on rows are set on cache lines
 
-  // Three vectors that whole pixels fill, for stores around the caches.
+  // Pixels that fill whole cache lines, for stores around the caches: a line that is stored partly
+  // so and partly through the caches takes many times as long.
   struct Group {
-    static constexpr std::size_t kSrc = 96;
+    static constexpr std::size_t kSrc = 192;
     static constexpr std::size_t kDst = kSrc;
     static constexpr std::size_t kSpan = 1;
     static constexpr std::size_t from(std::size_t j) {
