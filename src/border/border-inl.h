@@ -24,12 +24,11 @@ struct BorderRow {
   using Band = border::BorderBand;
   static constexpr bool kAll = kUsed == kPixel;
   // Of one channel; whole pixels where they are no longer than a sample may be.
-  static constexpr std::size_t kSample = kPixel % 3 == 0        ? kPixel / 3
+  static constexpr std::size_t kSample = kPixel % 3 == 0       ? kPixel / 3
                                          : kAll && kPixel <= 4 ? kPixel
                                                                : kPixel / 4;
-  using Sample = std::conditional_t<
-      kSample == 1, std::uint8_t,
-      std::conditional_t<kSample == 2, std::uint16_t, std::uint32_t>>;
+  using Sample = std::conditional_t<kSample == 1, std::uint8_t,
+                                    std::conditional_t<kSample == 2, std::uint16_t, std::uint32_t>>;
   using T = std::conditional_t<kAll, std::uint8_t, Sample>;  // what is copied
   using Keep = std::conditional_t<kAll, KeepNone, KeepOthers<4, 3>>;
   using Copy = map::Row<Identity, Keep, T, T>;
@@ -49,7 +48,8 @@ struct BorderRow {
               reinterpret_cast<const T*>(src));
   }
 
-  // count: bytes of whole pixels. From kLong on, rows are set on cache lines by vectors that overlap.
+  // count: bytes of whole pixels. From kLong on, rows are set on cache lines by vectors that
+  // overlap.
   static HWY_INLINE void copy(const std::uint8_t* src, std::uint8_t* dst, std::size_t count) {
     const hn::CappedTag<std::uint8_t, 32> d;
     constexpr std::size_t kN = hn::MaxLanes(d), kLine = 64, kLong = 192;
@@ -99,8 +99,8 @@ struct BorderRow {
   }
 
   // Makes a row of at least a vector from its source row and the vectors of its margins. The middle
-  // is as long as a vector, or the margins are alike. A local copy of the band is to be given, which
-  // no store can change.
+  // is as long as a vector, or the margins are alike. A local copy of the band is to be given,
+  // which no store can change.
   template <class D>
   static HWY_INLINE void make(D d, const Band& b, const std::uint8_t* src, hn::Vec<D> left,
                               hn::Vec<D> right, std::uint8_t* row) {

@@ -1,5 +1,6 @@
 // Frame of the borders: a source is copied into a larger region, whose margins take a constant, the
-// outermost pixels of the source, or the source continued periodically. Arguments have been checked.
+// outermost pixels of the source, or the source continued periodically. Arguments have been
+// checked.
 #pragma once
 
 #include "border/border_rows.h"
@@ -31,8 +32,7 @@ template <class T, Layout kLayout, class Value>
 KelStatus copyConst(const T* src, int srcStep, KeliSize srcSize, T* dst, int dstStep,
                     KeliSize dstSize, int top, int left, Value value) {
   constexpr std::size_t kPixel = pixelSamples(kLayout) * sizeof(T);
-  const BorderBand b =
-      makeBand(src, srcStep, srcSize, dst, dstStep, dstSize, top, left, kPixel);
+  const BorderBand b = makeBand(src, srcStep, srcSize, dst, dstStep, dstSize, top, left, kPixel);
   const data::Pixel pixel = data::pixelOf<T, kLayout>(value);
   const ConstRows& rows = constRows();
   (kLayout == Layout::AC4 ? rows.ac4.template get<T>() : rows.whole[kPixel])(b, pixel.bytes);

@@ -14,9 +14,10 @@ struct BorderBand {
   std::ptrdiff_t srcStep;
   std::uint8_t* dst;
   std::ptrdiff_t dstStep;
-  std::size_t left, middle, right;  // bytes of a destination row; the source has those in the middle
-  std::size_t top, rows, bottom;    // destination rows; the source has those of rows
-  bool streams;                     // stores may bypass the caches
+  std::size_t left, middle,
+      right;                      // bytes of a destination row; the source has those in the middle
+  std::size_t top, rows, bottom;  // destination rows; the source has those of rows
+  bool streams;                   // stores may bypass the caches
 
   std::size_t rowBytes() const { return left + middle + right; }
 };

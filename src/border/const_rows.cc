@@ -44,9 +44,8 @@ template <std::size_t kPixel, std::size_t kUsed = kPixel>
 void ownConst(const border::BorderBand& band, const std::uint8_t* pixel) {
   using Row = BorderRow<kPixel, kUsed>;
   if constexpr (kPermutesBytes) {
-    if (makeShort(band, [&](auto vectors) KELI_LAMBDA {
-          shortConst<kPixel, kUsed, vectors>(band, pixel);
-        })) {
+    if (makeShort(band, [&](auto vectors)
+                            KELI_LAMBDA { shortConst<kPixel, kUsed, vectors>(band, pixel); })) {
       return;
     }
   }

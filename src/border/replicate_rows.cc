@@ -39,9 +39,8 @@ template <std::size_t kPixel, std::size_t kUsed = kPixel>
 void ownReplicate(const border::BorderBand& band) {
   using Row = BorderRow<kPixel, kUsed>;
   if constexpr (kPermutesBytes) {
-    if (makeShort(band, [&](auto vectors) KELI_LAMBDA {
-          shortReplicate<kPixel, kUsed, vectors>(band);
-        })) {
+    if (makeShort(band, [&](auto vectors)
+                            KELI_LAMBDA { shortReplicate<kPixel, kUsed, vectors>(band); })) {
       return;
     }
   }

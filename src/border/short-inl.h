@@ -98,8 +98,8 @@ HWY_INLINE void shortConst(const border::BorderBand& b, const std::uint8_t* pixe
   fillRows(bottom);
 }
 
-// The vectors of rows whose outermost pixels are repeated. What one of them needs of the source lies
-// within as many bytes as it has.
+// The vectors of rows whose outermost pixels are repeated. What one of them needs of the source
+// lies within as many bytes as it has.
 template <std::size_t kPixel, std::size_t kUsed, std::size_t kVectors>
 HWY_INLINE void shortReplicate(const border::BorderBand& b) {
   constexpr std::size_t kN = hn::MaxLanes(ShortTag());

@@ -18,10 +18,12 @@ namespace keli::HWY_NAMESPACE {
 
 constexpr bool isPowerOf2(std::size_t v) { return (v & (v - 1)) == 0; }
 
-// The vectors that pixels are reversed in: blocks of 60 or 63 of 64 bytes if they can be shuffled at
-// once, else of 12 or 15 of 16.
+// The vectors that pixels are reversed in: blocks of 60 or 63 of 64 bytes if they can be shuffled
+// at once, else of 12 or 15 of 16.
 template <std::size_t kPixel>
-using BlockTag = hn::CappedTag<std::uint8_t, isPowerOf2(kPixel) ? 32 : kPermutesBytes ? 64 : 16>;
+using BlockTag = hn::CappedTag<std::uint8_t, isPowerOf2(kPixel) ? 32
+                                             : kPermutesBytes   ? 64
+                                                                : 16>;
 
 // kUsed: bytes of a pixel that are written, fewer than kPixel for AC4.
 template <std::size_t kPixel, std::size_t kUsed, class D>

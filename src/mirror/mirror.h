@@ -56,8 +56,7 @@ KelStatus mirrorInPlace(T* image, int step, KeliSize size, KelAxis flip) {
   const std::size_t height = static_cast<std::size_t>(size.height);
   std::uint8_t* const first = bytes(image);
   std::uint8_t* const last = first + static_cast<std::ptrdiff_t>(height - 1) * step;
-  const Exchange reversed =
-      kAC4 ? rows.reversedAC4.template get<T>() : rows.reversed[kPixel];
+  const Exchange reversed = kAC4 ? rows.reversedAC4.template get<T>() : rows.reversed[kPixel];
   // The halves of each of so many rows.
   const auto reverseEach = [&](std::uint8_t* row, std::size_t n, std::size_t count) {
     reversed({row, step, row + (n - n / 2) * kPixel, step, n / 2, count});

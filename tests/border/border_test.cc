@@ -102,7 +102,7 @@ void checkAll(const Function& f) {
     SCOPED_TRACE(targetName(target));
     const UseTarget use(target);
     for (int width = 1; width <= 140; ++width) {
-      for (std::uint64_t seed = 0; seed < 4 && !testing::Test::HasFatalFailure(); ++seed)
+      for (std::uint64_t seed = 0; seed < 2 && !testing::Test::HasFatalFailure(); ++seed)
         check<T>(f, width, runSeed() + 8 * static_cast<std::uint64_t>(width) + seed);
     }
     for (const int width : {257, 300, 1030, 1100, 2111, 4500}) check<T>(f, width, runSeed());
@@ -120,9 +120,7 @@ TEST(Border, EveryPixelComesFromItsPlace) {
 }
 
 TEST(Border, WideWrappedMargins) {
-  const Function& f = *registry::find("keliCopyWrapBorder_32s_C1R");
   const int width = 3, left = 2 * width + 1;
-  TestCall call(f, {40, 20, 0, Place::kMiddle, 0}, runSeed());
   Kel32s src[2][3] = {{1, 2, 3}, {4, 5, 6}};
   Kel32s dst[20][40] = {};
   ASSERT_EQ(keliCopyWrapBorder_32s_C1R(src[0], sizeof(src[0]), {width, 2}, dst[0], sizeof(dst[0]),

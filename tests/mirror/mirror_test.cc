@@ -51,7 +51,8 @@ void checkAll(const Function& f) {
 
 TEST(Mirror, EveryPixelGoesToItsPlace) {
   int members = 0;
-  for (const registry::Type type : {registry::Type::k8u, registry::Type::k16u, registry::Type::k32s})
+  for (const registry::Type type :
+       {registry::Type::k8u, registry::Type::k16u, registry::Type::k32s})
     members += forMembers("Mirror", type, checkAll);
   EXPECT_EQ(members, 24);
 }
