@@ -97,8 +97,9 @@ struct Exchange {
   }
 };
 
+// By value: no store can change the band.
 template <bool kReversed, std::size_t kPixel, std::size_t kUsed>
-HWY_INLINE void exchangePairs(const mirror::ExchangeBand& b) {
+HWY_INLINE void exchangePairs(const mirror::ExchangeBand b) {
   std::uint8_t *one = b.one, *other = b.other;
   for (std::size_t y = 0; y < b.pairs; ++y, one += b.oneStep, other += b.otherStep)
     Exchange<kPixel, kUsed>::template run<kReversed>(one, other, b.n);

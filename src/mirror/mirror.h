@@ -6,10 +6,10 @@
 
 namespace keli::mirror {
 
-// The same rows from the last to the first.
+// The rows from the last of the source to its first.
 inline void turnOver(Band<1>& b) {
-  b.dst += static_cast<std::ptrdiff_t>(b.rows - 1) * b.dstStep;
-  b.dstStep = -b.dstStep;
+  b.src[0] += static_cast<std::ptrdiff_t>(b.rows - 1) * b.srcStep[0];
+  b.srcStep[0] = -b.srcStep[0];
 }
 
 template <class T, Layout kLayout>

@@ -28,6 +28,20 @@ struct Reverse {
     static constexpr std::size_t from(std::size_t j) {
       return kSrc - (j / kPixel + 1) * kPixel + j % kPixel;
     }
+
+    // Where bytes are shuffled across 64 of them: of each 32 bytes of a group, the first of those
+    // 64 of the source that hold all they need, and their places there.
+    static constexpr std::size_t window(std::size_t v) {
+      const std::size_t low = kSrc - ((32 * v + 31) / kPixel + 1) * kPixel;
+      return std::min<std::size_t>(low, kSrc - 64);
+    }
+    static constexpr std::array<std::array<std::uint8_t, 64>, kSrc / 32> makePlaces() {
+      std::array<std::array<std::uint8_t, 64>, kSrc / 32> a{};
+      for (std::size_t j = 0; j < kSrc; ++j)
+        a[j / 32][j % 32] = static_cast<std::uint8_t>(from(j) - window(j / 32));
+      return a;
+    }
+    static constexpr auto kPlaces = makePlaces();
   };
 
   static HWY_INLINE void pixels(const std::uint8_t* src, std::uint8_t* dst, std::size_t n) {
@@ -80,12 +94,19 @@ struct Reverse {
       const D d;
       constexpr std::size_t kN = hn::MaxLanes(D());
       constexpr std::size_t kPixels = Group::kSrc / kPixel;
-      const auto indices = ShuffleIndices<Group, D>::fixed();
+      [[maybe_unused]] const auto indices = ShuffleIndices<Group, D>::fixed();
       const std::uint8_t* from = src + (n - kPixels) * kPixel;
       std::size_t x = 0;
       for (; x + kPixels <= n; x += kPixels, from -= Group::kSrc, dst += Group::kDst) {
         unrolled<Group::kSrc / kN>([&](auto v) KELI_LAMBDA {
-          hn::Stream(shuffled<v>(d, from, indices), d, dst + v * kN);
+          if constexpr (kPermutesBytes) {
+            const hn::CappedTag<std::uint8_t, 64> wide;
+            const auto places = hn::LoadU(wide, Group::kPlaces[v].data());
+            const auto bytes = hn::LoadU(wide, from + Group::window(v));
+            hn::Stream(hn::LowerHalf(d, permuteBytes(wide, bytes, places)), d, dst + v * kN);
+          } else {
+            hn::Stream(shuffled<v>(d, from, indices), d, dst + v * kN);
+          }
           keepOrder();
         });
       }
@@ -106,7 +127,8 @@ struct Reverse {
     blocks<false>(BlockTag<kPixel>(), src, dst + head * kPixel, rest);
   }
 
-  static HWY_INLINE void band(const Band<1>& b) {
+  // By value: no store can change the band.
+  static HWY_INLINE void band(const Band<1> b) {
     const bool streams = b.streams && kAll;
     const std::size_t size = b.n * kPixel;
     for (std::size_t y = 0; y < b.rows; ++y) {
