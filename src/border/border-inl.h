@@ -32,6 +32,7 @@ struct BorderRow {
   using T = std::conditional_t<kAll, std::uint8_t, Sample>;  // what is copied
   using Keep = std::conditional_t<kAll, KeepNone, KeepOthers<4, 3>>;
   using Copy = map::Row<Identity, Keep, T, T>;
+
   template <class D>
   static HWY_INLINE void put(D d, hn::Vec<D> v, std::uint8_t* dst) {
     if constexpr (kAll) {
