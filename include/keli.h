@@ -553,6 +553,147 @@ KELI_API KelStatus keliScale_32f8u_C3R(const Kel32f* pSrc, int srcStep, Kel8u* p
 KELI_API KelStatus keliScale_32f8u_C4R(const Kel32f* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f vMin, Kel32f vMax);
 KELI_API KelStatus keliScale_32f8u_AC4R(const Kel32f* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, Kel32f vMin, Kel32f vMax);
 
+/* ==== Borders ==== */
+
+/**
+ * Copies a region into a larger one and sets the margins around it to a constant.
+ *
+ *     dst(x, y) = src(x - left, y - top) inside the source, else value
+ *
+ * The source's first pixel goes to column leftBorderWidth of row topBorderHeight, both in
+ * pixels; the right and bottom margins are what is left of dstRoiSize. Any of the four margins
+ * may be empty. The constant is one value for C1 and an array of one value for each channel
+ * written otherwise. AC4 takes three values and leaves the fourth sample of every destination
+ * pixel as it was, in the margins and in the copied part. Source and destination that overlap
+ * give an undefined result.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if a width or height is below 1, a border is below 0, or the
+ * destination is smaller than the source and the top and left borders together;
+ * kelStatusNullPointer if an array of values is null.
+ */
+KELI_API KelStatus keliCopyConstBorder_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize srcRoiSize, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kel8u value);
+KELI_API KelStatus keliCopyConstBorder_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize srcRoiSize, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kel8u value[3]);
+KELI_API KelStatus keliCopyConstBorder_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize srcRoiSize, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kel8u value[3]);
+KELI_API KelStatus keliCopyConstBorder_8u_C4R(const Kel8u* pSrc, int srcStep, KeliSize srcRoiSize, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kel8u value[4]);
+KELI_API KelStatus keliCopyConstBorder_16s_C1R(const Kel16s* pSrc, int srcStep, KeliSize srcRoiSize, Kel16s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kel16s value);
+KELI_API KelStatus keliCopyConstBorder_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize srcRoiSize, Kel16s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kel16s value[3]);
+KELI_API KelStatus keliCopyConstBorder_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize srcRoiSize, Kel16s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kel16s value[3]);
+KELI_API KelStatus keliCopyConstBorder_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize srcRoiSize, Kel16s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kel16s value[4]);
+KELI_API KelStatus keliCopyConstBorder_32s_C1R(const Kel32s* pSrc, int srcStep, KeliSize srcRoiSize, Kel32s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kel32s value);
+KELI_API KelStatus keliCopyConstBorder_32s_C3R(const Kel32s* pSrc, int srcStep, KeliSize srcRoiSize, Kel32s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kel32s value[3]);
+KELI_API KelStatus keliCopyConstBorder_32s_AC4R(const Kel32s* pSrc, int srcStep, KeliSize srcRoiSize, Kel32s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kel32s value[3]);
+KELI_API KelStatus keliCopyConstBorder_32s_C4R(const Kel32s* pSrc, int srcStep, KeliSize srcRoiSize, Kel32s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kel32s value[4]);
+
+/**
+ * Copies a region into a larger one and repeats its outermost pixels in the margins.
+ *
+ *     dst(x, y) = src(clamp(x - left, 0, width - 1), clamp(y - top, 0, height - 1))
+ *
+ * Width and height are those of srcRoiSize. A corner takes the source's corner pixel. Margins
+ * are laid out as by CopyConstBorder. AC4 leaves the fourth sample of every destination pixel
+ * as it was. Source and destination that overlap give an undefined result.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if a width or height is below 1, a border is below 0, or the
+ * destination is smaller than the source and the top and left borders together.
+ */
+KELI_API KelStatus keliCopyReplicateBorder_8u_C1R(const Kel8u* pSrc, int srcStep, KeliSize srcRoiSize, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KELI_API KelStatus keliCopyReplicateBorder_8u_C3R(const Kel8u* pSrc, int srcStep, KeliSize srcRoiSize, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KELI_API KelStatus keliCopyReplicateBorder_8u_AC4R(const Kel8u* pSrc, int srcStep, KeliSize srcRoiSize, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KELI_API KelStatus keliCopyReplicateBorder_8u_C4R(const Kel8u* pSrc, int srcStep, KeliSize srcRoiSize, Kel8u* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KELI_API KelStatus keliCopyReplicateBorder_16s_C1R(const Kel16s* pSrc, int srcStep, KeliSize srcRoiSize, Kel16s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KELI_API KelStatus keliCopyReplicateBorder_16s_C3R(const Kel16s* pSrc, int srcStep, KeliSize srcRoiSize, Kel16s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KELI_API KelStatus keliCopyReplicateBorder_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize srcRoiSize, Kel16s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KELI_API KelStatus keliCopyReplicateBorder_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize srcRoiSize, Kel16s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KELI_API KelStatus keliCopyReplicateBorder_32s_C1R(const Kel32s* pSrc, int srcStep, KeliSize srcRoiSize, Kel32s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KELI_API KelStatus keliCopyReplicateBorder_32s_C3R(const Kel32s* pSrc, int srcStep, KeliSize srcRoiSize, Kel32s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KELI_API KelStatus keliCopyReplicateBorder_32s_AC4R(const Kel32s* pSrc, int srcStep, KeliSize srcRoiSize, Kel32s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KELI_API KelStatus keliCopyReplicateBorder_32s_C4R(const Kel32s* pSrc, int srcStep, KeliSize srcRoiSize, Kel32s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
+/**
+ * Copies a region into a larger one and continues it periodically in the margins.
+ *
+ *     dst(x, y) = src((x - left) mod width, (y - top) mod height)
+ *
+ * Width and height are those of srcRoiSize, and mod is never negative: margins wider than the
+ * source repeat it as often as needed. Margins are laid out as by CopyConstBorder. Source and
+ * destination that overlap give an undefined result.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if a width or height is below 1, a border is below 0, or the
+ * destination is smaller than the source and the top and left borders together.
+ */
+KELI_API KelStatus keliCopyWrapBorder_32s_C1R(const Kel32s* pSrc, int srcStep, KeliSize srcRoiSize, Kel32s* pDst, int dstStep, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
+/**
+ * Continues a region periodically in the margins of the image that it lies in.
+ *
+ *     dst(x, y) = src((x - left) mod width, (y - top) mod height)
+ *
+ * pSrcDst addresses the source's first pixel; the image of dstRoiSize begins topBorderHeight
+ * rows above and leftBorderWidth pixels left of it. The margins alone are written. They may be
+ * wider than the source.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if a width or height is below 1, a border is below 0, or the
+ * destination is smaller than the source and the top and left borders together.
+ */
+KELI_API KelStatus keliCopyWrapBorder_32s_C1IR(Kel32s* pSrcDst, int srcDstStep, KeliSize srcRoiSize, KeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
+/* ==== Mirror ==== */
+
+/**
+ * Mirrors a region about its horizontal axis, its vertical axis or both.
+ *
+ *     dst(x, y) = src(x', y'), x' = width - 1 - x and y' = height - 1 - y where mirrored
+ *
+ * flip kelAxisHorizontal reverses the order of the rows, kelAxisVertical every row, kelAxisBoth
+ * both. The channels of a pixel keep their order. AC4 leaves the fourth sample of every
+ * destination pixel as it was. Source and destination that overlap give an undefined result.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadAxis if flip
+ * is none of the axes.
+ */
+KELI_API KelStatus keliMirror_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_8u_C4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_16u_C1R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_16u_C3R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_16u_C4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_16u_AC4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_32s_C1R(const Kel32s* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_32s_C3R(const Kel32s* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_32s_C4R(const Kel32s* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_32s_AC4R(const Kel32s* pSrc, int srcStep, Kel32s* pDst, int dstStep, KeliSize roiSize, KelAxis flip);
+
+/**
+ * Mirrors a region in place.
+ *
+ *     (x, y) and (x', y') exchanged, x' = width - 1 - x and y' = height - 1 - y where mirrored
+ *
+ * As the form with a destination, with the same result. A middle row or column, of an odd
+ * height or width, stays where it is. AC4 leaves the fourth samples where they are.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadAxis if flip
+ * is none of the axes.
+ */
+KELI_API KelStatus keliMirror_8u_C1IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_8u_C3IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_8u_C4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_8u_AC4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_16u_C1IR(Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_16u_C3IR(Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_16u_C4IR(Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_16u_AC4IR(Kel16u* pSrcDst, int srcDstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_32s_C1IR(Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_32s_C3IR(Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_32s_C4IR(Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize, KelAxis flip);
+KELI_API KelStatus keliMirror_32s_AC4IR(Kel32s* pSrcDst, int srcDstStep, KeliSize roiSize, KelAxis flip);
+
 /* ==== Addition, subtraction, multiplication ==== */
 
 /**

@@ -28,3 +28,10 @@ struct BySize {
           kernel<std::uint32_t __VA_OPT__(, ) __VA_ARGS__>  \
     }                                                       \
   }
+
+// Initialises an array of 17 kernels by the bytes of a pixel from a template over them.
+#define KELI_BY_PIXEL(kernel)                                                                    \
+  {                                                                                              \
+    nullptr, kernel<1>, kernel<2>, kernel<3>, kernel<4>, nullptr, kernel<6>, nullptr, kernel<8>, \
+        nullptr, nullptr, nullptr, kernel<12>, nullptr, nullptr, nullptr, kernel<16>             \
+  }

@@ -11,27 +11,10 @@
 #define HWY_TARGET_INCLUDE "data/copy_rows.cc"
 #include <hwy/foreach_target.h>
 //
-#include "core/map-inl.h"
+#include "core/identity-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
-
-struct Identity {
-  static constexpr std::size_t kPeriod = 1;
-  static constexpr std::size_t kUnroll = 4;
-  template <class D>
-  HWY_INLINE Nothing at(D, std::size_t) const {
-    return {};
-  }
-  template <class D, class V>
-  HWY_INLINE V vector(D, Nothing, V a) const {
-    return a;
-  }
-  template <class T>
-  HWY_INLINE T scalar(std::size_t, T a) const {
-    return a;
-  }
-};
 
 // One channel of three: the vectors in flight are whole cycles.
 struct IdentityC3 : Identity {

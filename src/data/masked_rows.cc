@@ -53,20 +53,12 @@ void ownSetMasked(const Band<1>& b, const std::uint8_t* pixel) {
   }
 }
 
-#define KELI_BY_PIXEL(kernel)                                                                    \
-  {                                                                                              \
-    nullptr, kernel<1>, kernel<2>, kernel<3>, kernel<4>, nullptr, kernel<6>, nullptr, kernel<8>, \
-        nullptr, nullptr, nullptr, kernel<12>, nullptr, nullptr, nullptr, kernel<16>             \
-  }
-
 const data::MaskedRows kMaskedRows = {
     KELI_BY_PIXEL(ownCopyMasked),
     {{ownCopyMasked<4, 3>, ownCopyMasked<8, 6>, ownCopyMasked<16, 12>}},
     KELI_BY_PIXEL(ownSetMasked),
     {{ownSetMasked<4, 3>, ownSetMasked<8, 6>, ownSetMasked<16, 12>}},
 };
-
-#undef KELI_BY_PIXEL
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();

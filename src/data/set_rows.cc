@@ -13,31 +13,10 @@
 #define HWY_TARGET_INCLUDE "data/set_rows.cc"
 #include <hwy/foreach_target.h>
 //
-#include "core/map-inl.h"
+#include "data/fill-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
-
-// The samples of a pixel in turn.
-template <class T, std::size_t kChannels>
-struct Fill {
-  static constexpr std::size_t kPeriod = kChannels;
-  static constexpr std::size_t kUnroll = kChannels == 3 ? 6 : 4;
-  const std::uint8_t* pixel;
-  template <class D>
-  HWY_INLINE hn::Vec<D> at(D d, std::size_t phase) const {
-    // A load of all 16 bytes would wait for the caller's stores of some of them.
-    if constexpr (kChannels == 1) return hn::Set(d, scalar(0));
-    return repeatPixel<kChannels * sizeof(T)>(d, pixel, phase * sizeof(T));
-  }
-  template <class D, class V>
-  HWY_INLINE V vector(D, V at) const {
-    return at;
-  }
-  HWY_INLINE T scalar(std::size_t phase) const {
-    return load(reinterpret_cast<const T*>(pixel + phase * sizeof(T)));
-  }
-};
 
 // Rows of 36 to 128 KiB, about the size of the first-level cache and up: the C library's copy of
 // what has just been stored beats storing it again, as it need not read a line before overwriting
