@@ -45,11 +45,9 @@ struct BoxKernels {
 template <class T>
 const BoxKernels& boxKernels();
 
-// Of scratch memory are made rows of four-byte cells, each as long as a row that masks meet, and
-// longer by what vectors and shifted reads go beyond it.
-inline std::uint64_t cellsOfRow(const BoxRows& r) {
-  return (meetSamples(r) + 3 * 16 + 15) / 16 * 16;
-}
+// Of scratch memory are made rows of cells of two or four bytes, each as long as a row that masks
+// meet, and longer by what vectors and shifted reads go beyond it; all begin with a cache line.
+inline std::uint64_t cellsOfRow(const BoxRows& r) { return (meetSamples(r) + 64 + 31) / 32 * 32; }
 
 // Heights up to which sums of floats are formed anew for each row, row by row; taller masks are cut
 // into chunks of rows, of at most so many.
@@ -67,7 +65,7 @@ inline std::size_t digitsOf(std::size_t number) {
 template <class T>
 std::uint64_t scratchRows(const BoxRows& r) {
   const std::uint64_t levels = digitsOf(r.maskWidth);
-  if (sizeof(T) < 4) return 2 + levels;
+  if (sizeof(T) < 4) return 2;
   if (r.maskHeight <= kDirectRows) return levels;
   const std::uint64_t chunk = r.maskHeight < kChunkRows ? r.maskHeight : kChunkRows;
   const std::uint64_t totals = r.maskHeight > kChunkRows ? r.maskHeight / kChunkRows + 2 : 0;

@@ -1,16 +1,13 @@
 // Means of bytes and of words. Sums of columns slide down by the row that enters the mask and the
 // one that leaves it; the sum of a mask is a difference of two sums along the row, or for narrow
 // masks the sum of its columns. All sums are exact modulo 2^32.
-#define KELI_ENABLE_AVX512
-#include "box/box_rows.h"
+#if defined(KELI_BOX_INTEGER_INL_H_) == defined(HWY_TARGET_TOGGLE)
+#ifdef KELI_BOX_INTEGER_INL_H_
+#undef KELI_BOX_INTEGER_INL_H_
+#else
+#define KELI_BOX_INTEGER_INL_H_
+#endif
 
-#include "core/simd_config.h"
-#include "core/target.h"
-
-#undef HWY_TARGET_INCLUDE
-#define HWY_TARGET_INCLUDE "box/box_integer_rows.cc"
-#include <hwy/foreach_target.h>
-//
 #include "box/box-inl.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -224,25 +221,15 @@ void boxOf(const box::BoxRows& r) {
   }
 }
 
-template <class T, bool kKeepsFourth>
-void ownBox(const box::BoxRows& r) {
-  if constexpr (kKeepsFourth) return boxOf<T, 4, true>(r);
-  if (r.pixel == 1) return boxOf<T, 1, false>(r);
-  if (r.pixel == 3) return boxOf<T, 3, false>(r);
-  return boxOf<T, 4, false>(r);
+// Calls f with the distance of pixels as a constant.
+template <class F>
+HWY_INLINE void withPixel(std::size_t pixel, const F& f) {
+  if (pixel == 1) return f(std::integral_constant<std::size_t, 1>());
+  if (pixel == 3) return f(std::integral_constant<std::size_t, 3>());
+  f(std::integral_constant<std::size_t, 4>());
 }
-
-constexpr box::BoxKernels kBox8u = {ownBox<Kel8u, false>, ownBox<Kel8u, true>};
-constexpr box::BoxKernels kBox16s = {ownBox<Kel16s, false>, ownBox<Kel16s, true>};
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
-#if HWY_ONCE
-namespace keli::box {
-template <>
-KELI_SELECT_ROWS(BoxKernels, kBox8u, boxKernels<Kel8u>)
-template <>
-KELI_SELECT_ROWS(BoxKernels, kBox16s, boxKernels<Kel16s>)
-}  // namespace keli::box
-#endif
+#endif  // per-target include guard
