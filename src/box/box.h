@@ -1,6 +1,7 @@
 // Frames of the box filter. Arguments have been checked.
 //
-// Rows are shared out among threads, each of which forms its first row's sums anew. In place, rows
+// Rows are shared out among threads, each of which forms its first row's sums anew, and cut into
+// strips of columns, so that the rows under a mask stay in the second-level cache. In place, rows
 // wait in a ring until no row below needs what they overwrite.
 #pragma once
 
@@ -63,17 +64,36 @@ inline bool fitsMemory(std::uint64_t count) {
   return count <= std::numeric_limits<std::size_t>::max() / 1024;
 }
 
+// Of a strip: what a kernel keeps of its columns and the rows under a mask take about so much.
+constexpr std::size_t kStripBytes = std::size_t{1} << 20;
+// Whole pixels and whole vectors of any size.
+constexpr std::size_t kStripUnit = 3 * 64;
+
+// Samples of a strip. A strip is much wider than what masks reach beyond it.
+template <class T>
+std::size_t stripSamples(const BoxRows& r) {
+  const std::uint64_t column =
+      4 * scratchRows<T>(r) + (std::uint64_t{r.maskHeight} + 1) * sizeof(T);
+  const std::uint64_t beside = (std::uint64_t{r.maskWidth} - 1) * r.pixel;
+  const std::uint64_t least = std::max<std::uint64_t>(8 * beside, 4 * kStripUnit);
+  const std::uint64_t samples = std::max<std::uint64_t>(least, kStripBytes / column);
+  return samples >= r.b.n
+             ? r.b.n
+             : static_cast<std::size_t>((samples + kStripUnit - 1) / kStripUnit) * kStripUnit;
+}
+
 template <class T, Layout kLayout>
 KelStatus filter(const T* src, int srcStep, T* dst, int dstStep, KeliSize size, KeliSize mask,
                  KeliPoint anchor) {
   const BoxRows all = boxRows<T, kLayout>(src, srcStep, dst, dstStep, size, mask, anchor, false);
-  const std::uint64_t scratch = scratchBytes<T>(all);
+  BoxRows strip = all;
+  strip.b.n = stripSamples<T>(all);
+  const std::uint64_t scratch = scratchBytes<T>(strip);
   if (!fitsMemory(scratch)) return kelStatusNoMemory;
   const bool alone =
       std::int64_t{size.width} * size.height <= kPixelsOfOneThread ||
       (sizeof(T) == 1 && kLayout == Layout::C4 && hasFixedQuotient<kLayout>(mask, false));
-  const std::size_t moved = 2 * sizeof(T) * all.b.n * all.b.rows;
-  const int team = alone ? 1 : core::teamSize(size.height, moved);
+  const int team = alone ? 1 : core::teamSize(size.height, 2 * sizeof(T) * all.b.n * all.b.rows);
   const auto kernel = kernelOf<T, kLayout>();
   return core::runRows(core::Split::kStatic, size.height, team, static_cast<std::size_t>(scratch),
                        [&](const core::RowBlock& block) {
@@ -81,7 +101,13 @@ KelStatus filter(const T* src, int srcStep, T* dst, int dstStep, KeliSize size, 
                          part.b = rowsOf(all.b, block);
                          part.row = static_cast<std::size_t>(block.first);
                          part.scratch = block.scratch;
-                         kernel(part);
+                         for (std::size_t x = 0; x < all.b.n; x += strip.b.n) {
+                           BoxRows piece = part;
+                           piece.b.src[0] += x * sizeof(T);
+                           piece.b.dst += x * sizeof(T);
+                           piece.b.n = std::min(strip.b.n, all.b.n - x);
+                           kernel(piece);
+                         }
                        });
 }
 

@@ -123,14 +123,29 @@ struct Slide {
   HWY_INLINE void operator()(std::size_t i, const Halves& sums) const {
     (*this)(i, sums, hn::LoadU(ByteTag(), enters + i), hn::LoadU(ByteTag(), leaves + i));
   }
-  // Samples from i to n.
-  HWY_INLINE void rest(const HalfRows& from, std::size_t i, std::size_t n) const {
-    const ByteTag d;
-    for (; i < n; i += hn::MaxLanes(ByteTag())) {
-      (*this)(i, from.load(i), loadUpTo(d, enters + i, n - i), loadUpTo(d, leaves + i, n - i));
-    }
-  }
 };
+
+// Samples from i to n.
+inline void slideRest(const Slide& slide, const HalfRows& from, std::size_t i, std::size_t n) {
+  const ByteTag d;
+  for (; i < n; i += hn::MaxLanes(ByteTag())) {
+    slide(i, from.load(i), loadUpTo(d, slide.enters + i, n - i),
+          loadUpTo(d, slide.leaves + i, n - i));
+  }
+}
+
+// Of a block's first row.
+inline void sumColumns(const box::BoxRows& r, std::size_t n, const HalfRows& to) {
+  const ByteTag d;
+  for (std::size_t i = 0; i < n; i += hn::MaxLanes(ByteTag())) {
+    Halves sums(loadUpTo(d, maskRow<Kel8u>(r, 0, 0) + i, n - i));
+    for (std::size_t k = 1; k < r.maskHeight; ++k) {
+      const Halves more(loadUpTo(d, maskRow<Kel8u>(r, 0, k) + i, n - i));
+      sums = {sums.even + more.even, sums.odd + more.odd};
+    }
+    to.store(i, sums);
+  }
+}
 
 template <std::size_t kPixel, std::size_t kWidth, bool kKeepsFourth>
 class WordRows {
@@ -145,9 +160,9 @@ class WordRows {
   HWY_INLINE void form() {
     std::size_t at = (r_.b.rows - 1) % 2;
     if (r_.resumes) {
-      slideTo(0, rows_[at]).rest(rows_[0], 0, n_);
+      slideRest(slideTo(0, rows_[at]), rows_[0], 0, n_);
     } else {
-      sumColumns(rows_[at]);
+      sumColumns(r_, n_, rows_[at]);
     }
     for (std::size_t y = 0; y < r_.b.rows; ++y, at ^= 1) {
       if (y + 1 < r_.b.rows) {
@@ -166,18 +181,6 @@ class WordRows {
     return {maskRow<Kel8u>(r_, y, r_.maskHeight - 1), top - r_.b.srcStep[0], to};
   }
 
-  HWY_INLINE void sumColumns(const HalfRows& to) const {
-    const ByteTag d;
-    for (std::size_t i = 0; i < n_; i += kN) {
-      Halves sums(loadUpTo(d, maskRow<Kel8u>(r_, 0, 0) + i, n_ - i));
-      for (std::size_t k = 1; k < r_.maskHeight; ++k) {
-        const Halves more(loadUpTo(d, maskRow<Kel8u>(r_, 0, k) + i, n_ - i));
-        sums = {sums.even + more.even, sums.odd + more.odd};
-      }
-      to.store(i, sums);
-    }
-  }
-
   template <bool kSlides>
   HWY_INLINE void formRow(std::size_t y, const HalfRows& columns, const Slide& slide) const {
     const ByteTag d;
@@ -194,7 +197,7 @@ class WordRows {
       const Bytes means = quotient_(sumMasks<kPixel, kWidth>(columns, width, i, columns.load(i)));
       putFirst<kKeepsFourth>(d, means, dst, i, n - i);
     }
-    if constexpr (kSlides) slide.rest(columns, i, n_);
+    if constexpr (kSlides) slideRest(slide, columns, i, n_);
   }
 
   const box::BoxRows& r_;
