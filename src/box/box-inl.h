@@ -62,8 +62,8 @@ struct Terms {
 };
 
 // The sums of the terms, of n samples: sink.put(i, v) for whole vectors, sink.putFirst(i, v, count)
-// for the last.
-template <class D, class Sink>
+// for the last. kCount: of terms, or 0 if it is known when running.
+template <std::size_t kCount, class D, class Sink>
 HWY_INLINE void sumTerms(D d, const Terms<hn::TFromD<D>>& terms, std::size_t n, const Sink& sink) {
   constexpr std::size_t kN = hn::MaxLanes(D());
   std::size_t i = 0;
@@ -71,12 +71,17 @@ HWY_INLINE void sumTerms(D d, const Terms<hn::TFromD<D>>& terms, std::size_t n, 
     const auto* p = terms.row[0] + i;
     auto a = hn::LoadU(d, p), b = hn::LoadU(d, p + kN);
     auto c = hn::LoadU(d, p + 2 * kN), e = hn::LoadU(d, p + 3 * kN);
-    for (std::size_t t = 1; t < terms.count; ++t) {
+    const auto add = [&](std::size_t t) KELI_LAMBDA {
       p = terms.row[t] + i;
       a = a + hn::LoadU(d, p);
       b = b + hn::LoadU(d, p + kN);
       c = c + hn::LoadU(d, p + 2 * kN);
       e = e + hn::LoadU(d, p + 3 * kN);
+    };
+    if constexpr (kCount != 0) {
+      unrolled<kCount - 1>([&](auto t) KELI_LAMBDA { add(t + 1); });
+    } else {
+      for (std::size_t t = 1; t < terms.count; ++t) add(t);
     }
     sink.put(i, a);
     sink.put(i + kN, b);
@@ -93,6 +98,15 @@ HWY_INLINE void sumTerms(D d, const Terms<hn::TFromD<D>>& terms, std::size_t n, 
       sink.putFirst(i, a, count);
     }
   }
+}
+
+// The same, faster for the numbers of terms of small masks.
+template <class D, class Sink>
+HWY_INLINE void sumFewTerms(D d, const Terms<hn::TFromD<D>>& terms, std::size_t n,
+                            const Sink& sink) {
+  if (terms.count == 3) return sumTerms<3>(d, terms, n, sink);
+  if (terms.count == 5) return sumTerms<5>(d, terms, n, sink);
+  sumTerms<0>(d, terms, n, sink);
 }
 
 // Into cells, of which the last vector may lie beyond the row.

@@ -47,6 +47,23 @@ struct FloatMeans {
   }
 };
 
+// Keeps the sums below the last cut, and adds the others to them.
+struct Joined {
+  const float* above;
+  const float* between;  // or null
+  float* below;
+  float* sums;
+
+  HWY_INLINE void put(std::size_t i, hn::Vec<FloatTag> v) const {
+    const FloatTag d;
+    hn::Store(v, d, below + i);
+    auto sum = hn::Load(d, above + i);
+    if (between != nullptr) sum = sum + hn::Load(d, between + i);
+    hn::Store(sum + v, d, sums + i);
+  }
+  HWY_INLINE void putFirst(std::size_t i, hn::Vec<FloatTag> v, std::size_t) const { put(i, v); }
+};
+
 // Sums of the mask's rows in every column.
 class FloatColumns {
  public:
@@ -68,16 +85,17 @@ class FloatColumns {
       for (std::size_t k = firstChunk + 1; k < lastChunk; ++k)
         sumRows(y, k * chunk_ - top, chunk_, total(k));
       if (lastChunk > firstChunk) sumRows(y, lastChunk * chunk_ - top, last % chunk_ + 1, below());
-    } else {
-      if (opens && hasBetween()) copy(below(), total(lastChunk - 1));
-      addBelow(y, opens);
+    } else if (opens && hasBetween()) {
+      copy(below(), total(lastChunk - 1));
     }
     if (hasBetween() && (anew || enters || opens)) formBetween(firstChunk + 1, lastChunk);
-    Terms<float> parts;
-    parts.add(above(top % chunk_));
-    if (lastChunk > firstChunk + 1) parts.add(between());
-    if (lastChunk > firstChunk) parts.add(below());
-    sumTerms(FloatTag(), parts, n_, ToCells<FloatTag>{sums()});
+    const Joined join = {above(top % chunk_), lastChunk > firstChunk + 1 ? between() : nullptr,
+                         below(), sums()};
+    if (lastChunk == firstChunk) return copy(join.above, join.sums);
+    Terms<float> rows;
+    if (!anew) rows.add(maskRow<float>(r_, y, r_.maskHeight - 1));
+    if (anew || !opens) rows.add(join.below);
+    sumTerms<0>(FloatTag(), rows, n_, join);
   }
 
   float* level(std::size_t i) const { return cellsAt<float>(r_, i); }
@@ -96,7 +114,7 @@ class FloatColumns {
   void sumRows(std::size_t y, std::size_t first, std::size_t count, float* to) const {
     Terms<float> rows;
     for (std::size_t k = 0; k < count; ++k) rows.add(maskRow<float>(r_, y, first + k));
-    sumTerms(FloatTag(), rows, n_, ToCells<FloatTag>{to});
+    sumFewTerms(FloatTag(), rows, n_, ToCells<FloatTag>{to});
   }
 
   // The mask's top row is row `inChunk` of its chunk; the rows above it are not needed any more.
@@ -106,16 +124,8 @@ class FloatColumns {
       Terms<float> rows;
       rows.add(maskRow<float>(r_, y, k - inChunk));
       rows.add(above(k + 1));
-      sumTerms(FloatTag(), rows, n_, ToCells<FloatTag>{above(k)});
+      sumTerms<0>(FloatTag(), rows, n_, ToCells<FloatTag>{above(k)});
     }
-  }
-
-  void addBelow(std::size_t y, bool opens) const {
-    if (opens) return sumRows(y, r_.maskHeight - 1, 1, below());
-    Terms<float> rows;
-    rows.add(maskRow<float>(r_, y, r_.maskHeight - 1));
-    rows.add(below());
-    sumTerms(FloatTag(), rows, n_, ToCells<FloatTag>{below()});
   }
 
   void formBetween(std::size_t first, std::size_t end) const {
@@ -125,14 +135,14 @@ class FloatColumns {
       Terms<float> rows;
       rows.add(between());
       rows.add(total(k));
-      sumTerms(FloatTag(), rows, n_, ToCells<FloatTag>{between()});
+      sumTerms<0>(FloatTag(), rows, n_, ToCells<FloatTag>{between()});
     }
   }
 
   void copy(const float* from, float* to) const {
     Terms<float> rows;
     rows.add(from);
-    sumTerms(FloatTag(), rows, n_, ToCells<FloatTag>{to});
+    sumFewTerms(FloatTag(), rows, n_, ToCells<FloatTag>{to});
   }
 
   const box::BoxRows& r_;
@@ -160,7 +170,7 @@ inline void sumGroups(const box::BoxRows& r, const FloatColumns& columns) {
     for (std::size_t k = 0; k < 4; ++k)
       four.add(columns.level(level - 1) + k * (size / 4) * r.pixel);
     const std::size_t n = static_cast<std::size_t>(box::meetSamples(r)) - (size - 1) * r.pixel;
-    sumTerms(FloatTag(), four, n, ToCells<FloatTag>{columns.level(level)});
+    sumTerms<4>(FloatTag(), four, n, ToCells<FloatTag>{columns.level(level)});
   }
 }
 
@@ -175,7 +185,7 @@ void ownBox32f(const box::BoxRows& r) {
     columns.form(y, y == 0 && !r.resumes);
     if (!direct) sumGroups(r, columns);
     const FloatMeans<kKeepsFourth> means = {r.b.dstRow<float>(y), r.reciprocal};
-    sumTerms(FloatTag(), terms, r.b.n, means);
+    sumFewTerms(FloatTag(), terms, r.b.n, means);
   }
 }
 

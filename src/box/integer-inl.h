@@ -207,7 +207,7 @@ void boxOf(const box::BoxRows& r) {
     if (anew) sumColumns<T>(r, n, columns);
     if (direct) {
       if (!anew) slideColumns<T>(r, n, y, columns, [](std::size_t, auto) KELI_LAMBDA {});
-      sumTerms(d, terms, r.b.n, means);
+      sumFewTerms(d, terms, r.b.n, means);
     } else {
       RowSums<kPixel> along(sums);
       const auto add = [&](std::size_t i, auto v) KELI_LAMBDA { along.add(i, v); };
