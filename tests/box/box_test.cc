@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <numeric>
 #include <vector>
 
 #include "box/quotient.h"
@@ -155,31 +156,31 @@ float rowSum(const std::vector<float>& columns) {
   return plainSum(groups, 0, groups.size());
 }
 
-// The mean of the mask whose top left pixel is at x and y.
 template <class T>
-T meanAt(Picture<T>& p, int x, int y, int k, int used, bool inPlace) {
-  const KeliSize mask = p.mask.size;
-  std::int64_t sum = 0;
-  std::vector<float> columns;
-  for (int i = 0; i < mask.width; ++i) {
-    std::vector<float> column;
-    for (int j = 0; j < mask.height; ++j) {
-      const T v = p.at(x + i, y + j, k);
-      if constexpr (std::is_integral_v<T>) {
-        sum += v;
-      } else {
-        column.push_back(v);
-      }
-    }
-    if (!std::is_integral_v<T>) columns.push_back(columnSum(column, static_cast<std::size_t>(y)));
+using Sum = std::conditional_t<std::is_integral_v<T>, std::int64_t, float>;
+
+// Of one column of the mask whose top left pixel is at x and y.
+template <class T>
+Sum<T> sumOfColumn(Picture<T>& p, int x, int y, int k) {
+  std::vector<Sum<T>> column;
+  for (int j = 0; j < p.mask.size.height; ++j) column.push_back(p.at(x, y + j, k));
+  if constexpr (std::is_integral_v<T>) {
+    return std::accumulate(column.begin(), column.end(), std::int64_t{0});
+  } else {
+    return columnSum(column, static_cast<std::size_t>(y));
   }
+}
+
+// Of a mask's columns.
+template <class T>
+T meanOfColumns(const std::vector<Sum<T>>& columns, const Picture<T>& p, int used, bool inPlace) {
   const float r = 1.0f / static_cast<float>(p.mask.pixels());
-  if constexpr (sizeof(T) == 1) {
+  if constexpr (std::is_integral_v<T>) {
+    const std::int64_t sum = std::accumulate(columns.begin(), columns.end(), std::int64_t{0});
+    const auto wrapped = static_cast<std::int32_t>(static_cast<std::uint32_t>(sum));
+    if (sizeof(T) == 2) return static_cast<T>(std::nearbyint(static_cast<float>(wrapped) * r));
     return static_cast<T>(
         meanOfBytes(static_cast<std::uint64_t>(sum), p.mask, p.stored, used, inPlace));
-  } else if constexpr (sizeof(T) == 2) {
-    const auto wrapped = static_cast<std::int32_t>(static_cast<std::uint32_t>(sum));
-    return static_cast<T>(std::nearbyint(static_cast<float>(wrapped) * r));
   } else {
     const float mean = rowSum(columns) * r;
     const std::uint32_t bits = 0xFFC00000;
@@ -189,13 +190,19 @@ T meanAt(Picture<T>& p, int x, int y, int k, int used, bool inPlace) {
   }
 }
 
-// The region of an image after the call, and what is expected there.
+// The region of an image after the call.
 template <class T>
 Picture<T> expected(Picture<T> src, const Picture<T>& before, int used, bool inPlace) {
   Picture<T> out = before;
   for (int y = 0; y < src.roi.height; ++y) {
-    for (int x = 0; x < src.roi.width; ++x) {
-      for (int k = 0; k < used; ++k) out.inRegion(x, y, k) = meanAt(src, x, y, k, used, inPlace);
+    for (int k = 0; k < used; ++k) {
+      std::vector<Sum<T>> columns;
+      for (int x = 0; x < src.columns(); ++x) columns.push_back(sumOfColumn(src, x, y, k));
+      for (int x = 0; x < src.roi.width; ++x) {
+        const auto first = columns.begin() + x;
+        out.inRegion(x, y, k) =
+            meanOfColumns<T>({first, first + src.mask.size.width}, src, used, inPlace);
+      }
     }
   }
   return out;
