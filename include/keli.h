@@ -2938,12 +2938,13 @@ KELI_API KelStatus keliHistogramEven_16s_AC4R(const Kel16s* pSrc, int srcStep, K
  * N, now and then one more. Sums have 32 bits: of masks of more than 16843009 pixels they may
  * wrap. Fixed factors belong to some masks: C1 and 3 x 3 pixels (S * 29128) >> 18, C4 and 3 x 3
  * pixels (S * 29127) >> 18, C4 and 5 x 5 pixels (S * 10485) >> 18. The latter two are rounded
- * down, so uniform 255 gives 254. Source pixels around the region are read where masks meet
- * them: anchor.x columns to the left, maskSize.width - 1 - anchor.x to the right, anchor.y rows
- * above and maskSize.height - 1 - anchor.y below; there is no other care for borders. The cost
- * of a pixel hardly depends on the mask. AC4 leaves the fourth channel of the destination
- * alone. Regions overlap neither with each other nor the pixels that are read. The call returns
- * kelStatusNoMemory, and has written nothing, if it cannot get memory for a few rows.
+ * down, so uniform 255 gives 254; these masks are filtered on one thread. Source pixels around
+ * the region are read where masks meet them: anchor.x columns to the left, maskSize.width - 1 -
+ * anchor.x to the right, anchor.y rows above and maskSize.height - 1 - anchor.y below; there is
+ * no other care for borders. The cost of a pixel hardly depends on the mask. AC4 leaves the
+ * fourth channel of the destination alone. Regions overlap neither with each other nor the
+ * pixels that are read. The call returns kelStatusNoMemory, and has written nothing, if it
+ * cannot get memory for a few rows.
  *
  * On large regions the rows are shared out among threads, with the same results:
  * keliFilterBox_8u_C1R, keliFilterBox_8u_C3R, keliFilterBox_8u_C4R, keliFilterBox_8u_AC4R.

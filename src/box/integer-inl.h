@@ -15,9 +15,11 @@ namespace keli::HWY_NAMESPACE {
 
 using SumTag = hn::CappedTag<std::int32_t, 16>;
 constexpr std::size_t kSumLanes = hn::MaxLanes(SumTag());
+// Columns whose sum takes less time than a difference along the row.
 constexpr std::size_t kDirectColumns = 6;
 
-// (sum * multiplier) >> shift. Up to 24 bits a product of a sum of bytes fits 32 bits:
+// (sum * multiplier) >> shift. Shifts of up to 24 leave products of 32 bits: a sum is at most 255
+// times the number of pixels, the multiplier at most (1 + 2^-11) * 2^shift divided by it, and
 // 255 * 2^24 * (1 + 2^-11) < 2^32.
 class ByteMean {
  public:
@@ -119,8 +121,7 @@ HWY_INLINE void slideColumns(const box::BoxRows& r, std::size_t n, std::size_t y
   });
 }
 
-// Sums along a row of all samples of a channel before each one.
-// Lanes of a vector that others take.
+// Lanes of a vector that others take: those of their channel before them, and of the last pixel.
 struct Lanes {
   alignas(64) std::int32_t lane[kSumLanes];
 };
@@ -137,6 +138,7 @@ constexpr Lanes lastOfChannels(std::size_t pixel) {
   return lanes;
 }
 
+// Sums along a row of all samples of a channel before each one.
 template <std::size_t kPixel>
 class RowSums {
  public:
@@ -149,7 +151,7 @@ class RowSums {
   HWY_INLINE void add(std::size_t i, hn::Vec<SumTag> v) {
     const SumTag d;
     if constexpr (kSumLanes < kPixel) {
-      after_[i] = after_[static_cast<std::ptrdiff_t>(i) - std::ptrdiff_t{kPixel}] + hn::GetLane(v);
+      hn::StoreU(v + hn::LoadU(d, after_ + i - kPixel), d, after_ + i);
     } else {
       static constexpr Lanes kLast = lastOfChannels(kPixel);
       v = addBefore<kPixel>(v) + hn::TableLookupLanes(last_, hn::SetTableIndices(d, kLast.lane));
