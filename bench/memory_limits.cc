@@ -97,7 +97,10 @@ KELI_BENCH_AVX2 inline void storeVector(std::uint8_t* to, __m256i v) {
 
 template <int kVectors, bool kStream>
 KELI_BENCH_AVX2 void moveVectors(std::uint8_t* to, const std::uint8_t* from, std::size_t bytes) {
-  std::size_t i = 0;
+  // Streams begin at whole vectors, regions inside a larger image anywhere.
+  const std::size_t before = (0 - reinterpret_cast<std::uintptr_t>(to)) % kVector;
+  std::size_t i = kStream ? std::min(before, bytes) : 0;
+  if (to != from) std::memcpy(to, from, i);
   for (; i + kVectors * kVector <= bytes; i += kVectors * kVector) {
     __m256i v[kVectors];
     for (int k = 0; k < kVectors; ++k) {

@@ -3258,6 +3258,191 @@ KELI_API KelStatus keliHistogramEven_16s_C3R(const Kel16s* pSrc, int srcStep, Ke
 KELI_API KelStatus keliHistogramEven_16s_C4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* const pHist[4], int* const pLevels[4], const int nLevels[4], const int lowerLevel[4], const int upperLevel[4]);
 KELI_API KelStatus keliHistogramEven_16s_AC4R(const Kel16s* pSrc, int srcStep, KeliSize roiSize, int* const pHist[3], int* const pLevels[3], const int nLevels[3], const int lowerLevel[3], const int upperLevel[3]);
 
+/* ==== Box filter ==== */
+
+/**
+ * The mean of the pixels in a rectangle around each pixel.
+ *
+ *     dst = (S * M) >> k
+ *
+ * S is the sum of the mask's samples, M and k follow from the number N of its pixels: v = 2^32
+ * r - 0.49998998641967773 in single precision, where r is 1 / N in single precision, rounded to
+ * the nearest integer (ties to even) and shifted left n times, at most 24, until its top bit is
+ * set; then M = floor(v / 2^20) + 1 and k = n + 12. M / 2^k is a little above 1 / N: sums that
+ * are multiples of N are divided exactly, and the result is the floor of the mean or, at large
+ * N, now and then one more. Sums have 32 bits: of masks of more than 16843009 pixels they may
+ * wrap. Fixed factors belong to some masks: C1 and 3 x 3 pixels (S * 29128) >> 18, C4 and 3 x 3
+ * pixels (S * 29127) >> 18, C4 and 5 x 5 pixels (S * 10485) >> 18. The latter two are rounded
+ * down, so uniform 255 gives 254; these masks are filtered on one thread. Source pixels around
+ * the region are read where masks meet them: anchor.x columns to the left, maskSize.width - 1 -
+ * anchor.x to the right, anchor.y rows above and maskSize.height - 1 - anchor.y below; there is
+ * no other care for borders. The cost of a pixel hardly depends on the mask. AC4 leaves the
+ * fourth channel of the destination alone. Regions overlap neither with each other nor the
+ * pixels that are read. The call returns kelStatusNoMemory, and has written nothing, if it
+ * cannot get memory for a few rows.
+ *
+ * On large regions the rows are shared out among threads, with the same results:
+ * keliFilterBox_8u_C1R, keliFilterBox_8u_C3R, keliFilterBox_8u_C4R, keliFilterBox_8u_AC4R.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadMaskSize if
+ * maskSize is below 2 in width or height; kelStatusBadAnchor if anchor lies outside the mask.
+ */
+KELI_API KelStatus keliFilterBox_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_8u_C4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+
+/**
+ * The mean of the pixels in a rectangle around each pixel.
+ *
+ *     dst = saturate(round(S * r))
+ *
+ * S is the sum of the mask's samples, r = 1 / N in single precision, N the number of the mask's
+ * pixels. S is rounded to single precision, so is its product with r, which is then rounded to
+ * the nearest integer, ties to even, and saturated. Sums have 32 bits: of masks of more than
+ * 65536 pixels they may wrap. Source pixels around the region are read where masks meet them:
+ * anchor.x columns to the left, maskSize.width - 1 - anchor.x to the right, anchor.y rows above
+ * and maskSize.height - 1 - anchor.y below; there is no other care for borders. The cost of a
+ * pixel hardly depends on the mask. AC4 leaves the fourth channel of the destination alone.
+ * Regions overlap neither with each other nor the pixels that are read. The call returns
+ * kelStatusNoMemory, and has written nothing, if it cannot get memory for a few rows.
+ *
+ * On large regions the rows are shared out among threads, with the same results:
+ * keliFilterBox_16s_C1R, keliFilterBox_16s_C3R, keliFilterBox_16s_C4R, keliFilterBox_16s_AC4R.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadMaskSize if
+ * maskSize is below 2 in width or height; kelStatusBadAnchor if anchor lies outside the mask.
+ */
+KELI_API KelStatus keliFilterBox_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_16s_C4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+
+/**
+ * The mean of the pixels in a rectangle around each pixel.
+ *
+ *     dst = S * r
+ *
+ * S is the sum of the mask's samples in single precision, r = 1 / N in single precision, N the
+ * number of the mask's pixels. Every mask is summed anew: nothing is subtracted, errors do not
+ * accumulate along the image, and a NaN or an infinity reaches only the masks that hold it. The
+ * order of additions follows from maskSize and the number of the row alone, so results are the
+ * same for every step, processor and number of threads: first columns of the mask, then their
+ * sums from left to right. Columns of up to 6 rows are added from top to bottom. Taller ones
+ * are cut at the multiples of min(maskSize.height, 32) rows below the top of the first row's
+ * mask: from the first cut upwards, the whole parts between two cuts each from top to bottom
+ * and one after the other, from the last cut downwards; then (first + between) + last. Up to 8
+ * columns are added from left to right, more as sums of 1, 4, 16, 64 ... columns (each of four
+ * of the ones before), as few as make up the width, from left to right and the smallest first.
+ * A result that is not a number is 0xFFC00000. Source pixels around the region are read where
+ * masks meet them: anchor.x columns to the left, maskSize.width - 1 - anchor.x to the right,
+ * anchor.y rows above and maskSize.height - 1 - anchor.y below; there is no other care for
+ * borders. The cost of a pixel hardly depends on the mask. AC4 leaves the fourth channel of the
+ * destination alone. Regions overlap neither with each other nor the pixels that are read. The
+ * call returns kelStatusNoMemory, and has written nothing, if it cannot get memory for a few
+ * rows.
+ *
+ * On large regions the rows are shared out among threads, with the same results:
+ * keliFilterBox_32f_C1R, keliFilterBox_32f_C3R, keliFilterBox_32f_C4R, keliFilterBox_32f_AC4R.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadMaskSize if
+ * maskSize is below 2 in width or height; kelStatusBadAnchor if anchor lies outside the mask.
+ */
+KELI_API KelStatus keliFilterBox_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+
+/**
+ * The mean of the pixels in a rectangle around each pixel, in place.
+ *
+ *     dst = (S * M) >> k
+ *
+ * S is the sum of the mask's samples, M and k follow from the number N of its pixels: v = 2^32
+ * r - 0.49998998641967773 in single precision, where r is 1 / N in single precision, rounded to
+ * the nearest integer (ties to even) and shifted left n times, at most 24, until its top bit is
+ * set; then M = floor(v / 2^20) + 1 and k = n + 12. M / 2^k is a little above 1 / N: sums that
+ * are multiples of N are divided exactly, and the result is the floor of the mean or, at large
+ * N, now and then one more. Sums have 32 bits: of masks of more than 16843009 pixels they may
+ * wrap. C1 and 3 x 3 pixels have fixed factors: (S * 29128) >> 18. Source pixels around the
+ * region are read where masks meet them: anchor.x columns to the left, maskSize.width - 1 -
+ * anchor.x to the right, anchor.y rows above and maskSize.height - 1 - anchor.y below; there is
+ * no other care for borders. The cost of a pixel hardly depends on the mask. AC4 leaves the
+ * fourth channel of the destination alone. In place the results are those of a copy of the
+ * image (of C4 with 3 x 3 or 5 x 5 pixels with factors M and k, not the fixed ones); of the
+ * pixels around the region none is written. The call returns kelStatusNoMemory, and has written
+ * nothing, if it cannot get memory for a few rows.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadMaskSize if
+ * maskSize is below 2 in width or height; kelStatusBadAnchor if anchor lies outside the mask.
+ */
+KELI_API KelStatus keliFilterBox_8u_C1IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_8u_C3IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_8u_C4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_8u_AC4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+
+/**
+ * The mean of the pixels in a rectangle around each pixel, in place.
+ *
+ *     dst = saturate(round(S * r))
+ *
+ * S is the sum of the mask's samples, r = 1 / N in single precision, N the number of the mask's
+ * pixels. S is rounded to single precision, so is its product with r, which is then rounded to
+ * the nearest integer, ties to even, and saturated. Sums have 32 bits: of masks of more than
+ * 65536 pixels they may wrap. Source pixels around the region are read where masks meet them:
+ * anchor.x columns to the left, maskSize.width - 1 - anchor.x to the right, anchor.y rows above
+ * and maskSize.height - 1 - anchor.y below; there is no other care for borders. The cost of a
+ * pixel hardly depends on the mask. AC4 leaves the fourth channel of the destination alone. In
+ * place the results are those of a copy of the image; of the pixels around the region none is
+ * written. The call returns kelStatusNoMemory, and has written nothing, if it cannot get memory
+ * for a few rows.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadMaskSize if
+ * maskSize is below 2 in width or height; kelStatusBadAnchor if anchor lies outside the mask.
+ */
+KELI_API KelStatus keliFilterBox_16s_C1IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_16s_C3IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_16s_C4IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_16s_AC4IR(Kel16s* pSrcDst, int srcDstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+
+/**
+ * The mean of the pixels in a rectangle around each pixel, in place.
+ *
+ *     dst = S * r
+ *
+ * S is the sum of the mask's samples in single precision, r = 1 / N in single precision, N the
+ * number of the mask's pixels. Every mask is summed anew: nothing is subtracted, errors do not
+ * accumulate along the image, and a NaN or an infinity reaches only the masks that hold it. The
+ * order of additions follows from maskSize and the number of the row alone, so results are the
+ * same for every step, processor and number of threads: first columns of the mask, then their
+ * sums from left to right. Columns of up to 6 rows are added from top to bottom. Taller ones
+ * are cut at the multiples of min(maskSize.height, 32) rows below the top of the first row's
+ * mask: from the first cut upwards, the whole parts between two cuts each from top to bottom
+ * and one after the other, from the last cut downwards; then (first + between) + last. Up to 8
+ * columns are added from left to right, more as sums of 1, 4, 16, 64 ... columns (each of four
+ * of the ones before), as few as make up the width, from left to right and the smallest first.
+ * A result that is not a number is 0xFFC00000. Source pixels around the region are read where
+ * masks meet them: anchor.x columns to the left, maskSize.width - 1 - anchor.x to the right,
+ * anchor.y rows above and maskSize.height - 1 - anchor.y below; there is no other care for
+ * borders. The cost of a pixel hardly depends on the mask. AC4 leaves the fourth channel of the
+ * destination alone. In place the results are those of a copy of the image; of the pixels
+ * around the region none is written. The call returns kelStatusNoMemory, and has written
+ * nothing, if it cannot get memory for a few rows.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadMaskSize if
+ * maskSize is below 2 in width or height; kelStatusBadAnchor if anchor lies outside the mask.
+ */
+KELI_API KelStatus keliFilterBox_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_32f_C4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterBox_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+
 /* ==== Remap ==== */
 
 /**

@@ -106,6 +106,18 @@ HWY_INLINE hn::Vec<D> loadFirst(D d, const hn::TFromD<D>* p, std::size_t count) 
 #endif
 }
 
+// Stores the first count lanes of v, fewer than all.
+template <class D>
+HWY_INLINE void storeFirst(D d, hn::Vec<D> v, hn::TFromD<D>* p, std::size_t count) {
+#if HWY_TARGET == HWY_AVX3_DL
+  hn::BlendedStore(v, hn::FirstN(d, count), d, p);
+#else
+  HWY_ALIGN hn::TFromD<D> samples[hn::MaxLanes(D())];
+  hn::Store(v, d, samples);
+  std::memcpy(p, samples, count * sizeof(hn::TFromD<D>));
+#endif
+}
+
 // a > b ? a : b and a < b ? a : b, of floats with b where one is not a number or both are zeros.
 template <class V>
 HWY_INLINE V greaterElse(V a, V b) {
