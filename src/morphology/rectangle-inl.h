@@ -1,0 +1,192 @@
+// Extremes of rectangular windows: first those of the columns, into rows of scratch memory, then
+// along these rows.
+//
+// Of a low window, the rows but the first and last of a pair of results serve both. Rows of results
+// are written after the columns of the next pair have been read, so that they may replace the
+// source's rows.
+//
+// A high window of h rows lies in one block of h rows or in two that follow each other: its extreme
+// is that of the end of the one (ends) and the beginning of the other, each one step from that of
+// the row before, three steps for a result whatever the height (M. van Herk: A fast algorithm for
+// local minimum and maximum filters on rectangular and octagonal kernels, Pattern Recognition
+// Letters 13, 1992; J. Gil, M. Werman: Computing 2-D min, median, and max filters, IEEE
+// Transactions on Pattern Analysis and Machine Intelligence 15, 1993).
+#if defined(KELI_MORPHOLOGY_RECTANGLE_INL_H_) == defined(HWY_TARGET_TOGGLE)
+#ifdef KELI_MORPHOLOGY_RECTANGLE_INL_H_
+#undef KELI_MORPHOLOGY_RECTANGLE_INL_H_
+#else
+#define KELI_MORPHOLOGY_RECTANGLE_INL_H_
+#endif
+
+#include "morphology/windows-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace keli::HWY_NAMESPACE {
+
+using morphology::Rectangle;
+
+// Extremes of a strip's columns, in rows of scratch memory. The strip's results begin at sample
+// first of each row.
+template <class Operation, class T>
+class Columns {
+ public:
+  using Lane = LaneOf<T>;
+  using Op = Extreme<Operation>;
+
+  Columns(const Band<1>& b, const Rectangle& r, std::size_t first)
+      : b_(b), r_(r), first_(first), n_(std::min(r.strips.n, b.n - first)) {}
+
+  Lane* scratchRow(std::size_t i) const {
+    return reinterpret_cast<Lane*>(r_.strips.scratch + i * r_.strips.rowBytes);
+  }
+
+  // Those of the results of rows y and y + 1, if there is such a one, to two rows.
+  void ofTwoRows(std::size_t y, std::size_t to) const {
+    Lane* const dst = scratchRow(to);
+    if (y + 1 == b_.rows) {
+      ofRow(y, dst);
+    } else if (r_.height == 3) {
+      ofTwoRows<3>(y, dst, scratchRow(to + 1));
+    } else if (r_.height > 1) {
+      ofTwoRows<0>(y, dst, scratchRow(to + 1));
+    } else {
+      ofRow(y, dst);
+      ofRow(y + 1, scratchRow(to + 1));
+    }
+  }
+
+  // The extremes of rows k .. height - 1 of the block that begins at row y, for each k below kept;
+  // those for greater k stay in no row.
+  void endsOfBlock(std::size_t y, std::size_t kept) const {
+    copyRow(y + r_.height - 1, scratchRow(kept - 1));
+    for (std::size_t k = r_.height - 1; k-- > 0;)
+      joinRow(y + k, scratchRow(std::min(k + 1, kept - 1)), scratchRow(std::min(k, kept - 1)));
+  }
+
+  // beginnings: row y where it is the first of its block, else joined with row y. ends: joined with
+  // beginnings.
+  template <bool kFirst>
+  void goOn(std::size_t y, Lane* beginnings, Lane* ends) const {
+    overSource(y, [&](auto d, std::size_t i, auto v) KELI_LAMBDA {
+      if (!kFirst) v = Op::of(v, loadAnywhere(d, beginnings + i));
+      storeAnywhere(d, v, beginnings + i);
+      storeAnywhere(d, Op::of(v, loadAnywhere(d, ends + i)), ends + i);
+    });
+  }
+
+ protected:
+  const Band<1>& b_;
+  const Rectangle& r_;
+  std::size_t first_;
+  std::size_t n_;
+
+ private:
+  // Calls f(d, i, v) with the vectors of row y of the image, up to the last window's end.
+  template <class F>
+  HWY_INLINE void overSource(std::size_t y, const F& f) const {
+    const T* const src = b_.srcRow<T>(0, y) + first_;
+    overRow<Lane>(n_ + r_.strips.margin,
+                  [&](auto d, std::size_t i) KELI_LAMBDA { f(d, i, loadOrdered(d, src + i)); });
+  }
+
+  template <std::size_t kHeight>
+  void ofTwoRows(std::size_t y, Lane* upper, Lane* lower) const {
+    const std::size_t height = kHeight != 0 ? kHeight : r_.height;
+    const std::uint8_t* const src = bytes(b_.srcRow<T>(0, y) + first_);
+    const std::ptrdiff_t step = b_.srcStep[0];
+    overSource(y, [&](auto d, std::size_t i, auto v) KELI_LAMBDA {
+      const auto at = [&](std::size_t row) KELI_LAMBDA {
+        const std::uint8_t* const p = src + static_cast<std::ptrdiff_t>(row) * step;
+        return loadOrdered(d, reinterpret_cast<const T*>(p) + i);
+      };
+      auto both = at(1);
+      for (std::size_t row = 2; row < height; ++row) both = Op::of(both, at(row));
+      storeAnywhere(d, Op::of(v, both), upper + i);
+      storeAnywhere(d, Op::of(both, at(height)), lower + i);
+    });
+  }
+
+  void ofRow(std::size_t y, Lane* dst) const {
+    copyRow(y, dst);
+    for (std::size_t row = 1; row < r_.height; ++row) joinRow(y + row, dst, dst);
+  }
+
+  void copyRow(std::size_t y, Lane* dst) const {
+    overSource(y, [&](auto d, std::size_t i, auto v) KELI_LAMBDA { storeAnywhere(d, v, dst + i); });
+  }
+
+  void joinRow(std::size_t y, const Lane* with, Lane* dst) const {
+    overSource(y, [&](auto d, std::size_t i, auto v) KELI_LAMBDA {
+      storeAnywhere(d, Op::of(v, loadAnywhere(d, with + i)), dst + i);
+    });
+  }
+};
+
+template <class Operation, class T, class Write>
+class RectangleStrip : Columns<Operation, T> {
+  using Base = Columns<Operation, T>;
+  using typename Base::Lane;
+  using Base::b_;
+  using Base::r_;
+  using Base::scratchRow;
+
+ public:
+  using Base::Base;
+
+  void low() const {
+    this->ofTwoRows(0, 0);
+    for (std::size_t y = 0; y < b_.rows; y += 2) {
+      const std::size_t own = y % 4;
+      if (y + 2 < b_.rows) this->ofTwoRows(y + 2, 2 - own);
+      alongRow(scratchRow(own), y);
+      if (y + 1 < b_.rows) alongRow(scratchRow(own + 1), y + 1);
+    }
+  }
+
+  void high() const {
+    const std::size_t kept = std::min(r_.height, b_.rows);
+    Lane* const beginnings = scratchRow(kept);
+    for (std::size_t y = 0; y < b_.rows; y += r_.height) {
+      this->endsOfBlock(y, kept);
+      for (std::size_t k = 0; k < r_.height && y + k < b_.rows; ++k) {
+        const std::size_t next = y + r_.height + k - 1;
+        if (k == 1) this->template goOn<true>(next, beginnings, scratchRow(k));
+        if (k > 1) this->template goOn<false>(next, beginnings, scratchRow(k));
+        alongRow(scratchRow(k), y + k);
+      }
+    }
+  }
+
+ private:
+  // The windows of a row of columns' extremes, to row y of the destination.
+  void alongRow(Lane* columns, std::size_t y) const {
+    const std::size_t last = r_.steps - 1;
+    for (std::size_t i = 0; i < last; ++i) {
+      withStarts<Operation, Lane>(columns, r_.step[i], [&](const auto& windows) KELI_LAMBDA {
+        toScratch(windows, this->n_ + r_.step[i].rest, columns);
+      });
+    }
+    withStarts<Operation, Lane>(columns, r_.step[last], [&](const auto& windows) KELI_LAMBDA {
+      toImage<T, Write>(windows, b_.streams, this->n_ - Write::kTrim,
+                        b_.template dstRow<T>(y) + this->first_);
+    });
+  }
+};
+
+template <class Operation, class T, class Write>
+void ownExtentOfRectangle(const Band<1>& b, const Rectangle& r) {
+  for (std::size_t first = 0; first < b.n; first += r.strips.n) {
+    const RectangleStrip<Operation, T, Write> strip(b, r, first);
+    if (r.height <= morphology::kLowHeight) {
+      strip.low();
+    } else {
+      strip.high();
+    }
+  }
+  if (b.streams) hwy::FlushStream();
+}
+
+}  // namespace keli::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#endif  // per-target include guard
