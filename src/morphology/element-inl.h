@@ -52,7 +52,8 @@ class ElementStrip {
     });
     for (std::size_t i = 1; i < e_.steps; ++i) {
       const Step& step = e_.step[i];
-      withStarts<Operation, Lane>(windows(y, i - 1), step, [&](const auto& shorter) KELI_LAMBDA {
+      withStarts(step, [&](auto starts) KELI_LAMBDA {
+        const Starts<Operation, Lane, starts> shorter(windows(y, i - 1), step);
         toScratch(shorter, n_ + step.rest, windows(y, i));
       });
     }

@@ -8,6 +8,7 @@
 //
 
 #include "morphology/rectangle-inl.h"
+#include "morphology/square-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
@@ -16,6 +17,8 @@ template <class Operation>
 constexpr morphology::ExtentRows kExtentRows = {
     ownExtentOfRectangle<Operation, Kel16s, WriteAll<Kel16s>>,
     ownExtentOfRectangle<Operation, Kel16s, WriteColours<Kel16s>>,
+    ownExtentOfSquare<Operation, Kel16s, WriteAll<Kel16s>>,
+    ownExtentOfSquare<Operation, Kel16s, WriteColours<Kel16s>>,
     nullptr, nullptr,
 };
 constexpr morphology::ExtentRows kMinima16s = kExtentRows<morphology::Min>;

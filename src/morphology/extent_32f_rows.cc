@@ -16,6 +16,8 @@ template <class Operation>
 constexpr morphology::ExtentRows kExtentRows = {
     ownExtentOfRectangle<Operation, Kel32f, WriteAll<Kel32f>>,
     ownExtentOfRectangle<Operation, Kel32f, WriteColours<Kel32f>>,
+    nullptr,
+    nullptr,
     ownExtentOfElement<Operation, Kel32f, WriteAll<Kel32f>>,
     ownExtentOfElement<Operation, Kel32f, WriteColours<Kel32f>>,
 };

@@ -8,6 +8,7 @@
 //
 #include "morphology/element-inl.h"
 #include "morphology/rectangle-inl.h"
+#include "morphology/square-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
@@ -16,6 +17,8 @@ template <class Operation>
 constexpr morphology::ExtentRows kExtentRows = {
     ownExtentOfRectangle<Operation, Kel8u, WriteAll<Kel8u>>,
     ownExtentOfRectangle<Operation, Kel8u, WriteColours<Kel8u>>,
+    ownExtentOfSquare<Operation, Kel8u, WriteAll<Kel8u>>,
+    ownExtentOfSquare<Operation, Kel8u, WriteColours<Kel8u>>,
     ownExtentOfElement<Operation, Kel8u, WriteAll<Kel8u>>,
     ownExtentOfElement<Operation, Kel8u, WriteColours<Kel8u>>,
 };

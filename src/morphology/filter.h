@@ -7,6 +7,11 @@
 
 namespace keli::morphology {
 
+// Floats have to be brought to their order, which a sample that is read nine times had better be
+// but once.
+template <class T>
+constexpr bool kHasSquares = !std::is_floating_point_v<T>;
+
 // The region seen from the window of its first pixel.
 template <class T, Layout kLayout>
 Band<1> windowBand(const T* src, int srcStep, T* dst, int dstStep, KeliSize size,
@@ -18,33 +23,42 @@ Band<1> windowBand(const T* src, int srcStep, T* dst, int dstStep, KeliSize size
 }
 
 // Rows of scratch memory that a rectangle takes.
-inline std::size_t scratchRows(std::size_t height, std::size_t rows) {
-  return height <= kLowHeight ? kVerticalRows : std::min(height, rows) + 1;
+inline std::size_t scratchRows(const Rectangle& r, std::size_t rows) {
+  return r.height <= kLowHeight ? 2 * r.strips.batch : std::min(r.height, rows) + 1;
 }
 
 template <class Operation, class T, Layout kLayout>
-KelStatus rectangle(const T* src, int srcStep, T* dst, int dstStep, KeliSize size, KeliSize mask,
-                    KeliPoint anchor) {
-  if (mask.width == 1 && mask.height == 1) {
-    const Band<1> b = windowBand<T, kLayout>(src, srcStep, dst, dstStep, size, anchor);
-    return data::copy<T, kLayout>(b.srcRow<T>(0, 0), srcStep, dst, dstStep, size);
-  }
+KelStatus rectangleOfBand(const Band<1>& b, KeliSize mask, bool inPlace) {
   constexpr std::size_t kChannels = pixelSamples(kLayout);
-  Band<1> b = windowBand<T, kLayout>(src, srcStep, dst, dstStep, size, anchor);
   const std::size_t width = static_cast<std::size_t>(mask.width);
   Rectangle r;
   r.height = static_cast<std::size_t>(mask.height);
   r.steps = makeSteps(width, kChannels, r.step);
   // In place a strip would find the margin that it shares with the one before replaced.
-  const std::size_t rows = scratchRows(r.height, b.rows);
-  r.strips = makeStrips(b.n, (width - 1) * kChannels, sizeof(T),
-                        src == dst ? sizeof(T) * (b.n + 64) : fittingRow(rows));
-  Workspace workspace(bytesOfRows(rows, r.strips.rowBytes));
+  const std::size_t rowBytes = inPlace ? sizeof(T) * (b.n + 64)
+                                       : fittingRow(r.height <= kLowHeight ? 1 : r.height);
+  r.strips = makeStrips(b.n, (width - 1) * kChannels, sizeof(T), rowBytes);
+  Workspace workspace(bytesOfRows(scratchRows(r, b.rows), r.strips.rowBytes));
   r.strips.scratch = workspace.data();
   if (r.strips.scratch == nullptr) return kelStatusNoMemory;
   const ExtentRows& kernels = extentRows<Operation, T>();
   (kLayout == Layout::AC4 ? kernels.rectangleAC4 : kernels.rectangle)(b, r);
   return kelStatusOk;
+}
+
+template <class Operation, class T, Layout kLayout>
+KelStatus rectangle(const T* src, int srcStep, T* dst, int dstStep, KeliSize size, KeliSize mask,
+                    KeliPoint anchor) {
+  const Band<1> b = windowBand<T, kLayout>(src, srcStep, dst, dstStep, size, anchor);
+  if (mask.width == 1 && mask.height == 1)
+    return data::copy<T, kLayout>(b.srcRow<T>(0, 0), srcStep, dst, dstStep, size);
+  const bool inPlace = src == dst;
+  if (kHasSquares<T> && mask.width == 3 && mask.height == 3 && !inPlace) {
+    const ExtentRows& kernels = extentRows<Operation, T>();
+    (kLayout == Layout::AC4 ? kernels.squareAC4 : kernels.square)(b, pixelSamples(kLayout));
+    return kelStatusOk;
+  }
+  return rectangleOfBand<Operation, T, kLayout>(b, mask, inPlace);
 }
 
 // src may be dst.
@@ -76,7 +90,7 @@ KelStatus element(const T* src, int srcStep, T* dst, int dstStep, KeliSize size,
   makeElementSteps(mask, lengths, kChannels, e);
   e.chordCount = countChords(mask, lengths);
   const std::size_t rows = e.steps * e.height;
-  Band<1> b = windowBand<T, kLayout>(src, srcStep, dst, dstStep, size, anchor);
+  const Band<1> b = windowBand<T, kLayout>(src, srcStep, dst, dstStep, size, anchor);
   e.strips = makeStrips(b.n, margin, sizeof(T), fittingRow(rows));
   const std::size_t scratch = bytesOfRows(rows, e.strips.rowBytes);
   const std::size_t chords = e.chordCount * (sizeof(Chord) + sizeof(void*));

@@ -77,8 +77,10 @@ inline std::size_t makeSteps(std::size_t width, std::size_t channels, Step (&ste
 inline Strips makeStrips(std::size_t n, std::size_t margin, std::size_t sampleBytes,
                          std::size_t rowBytes) {
   const std::size_t most = std::max(rowBytes, 4 * margin * sampleBytes) / sampleBytes / 64 * 64;
-  Strips strips = {std::min(n, most), margin, 0, nullptr};
+  Strips strips = {std::min(n, most), margin, 0, 0, nullptr};
   strips.rowBytes = ((strips.n + margin) * sampleBytes + 256 + 63) / 64 * 64;
+  constexpr std::size_t kBatchBytes = 6144, kMostRows = 16;
+  strips.batch = std::clamp<std::size_t>(kBatchBytes / strips.rowBytes / 2 * 2, 2, kMostRows);
   return strips;
 }
 

@@ -2,7 +2,7 @@
 // along these rows.
 //
 // Of a low window, the rows but the first and last of a pair of results serve both. Rows of results
-// are written after the columns of the next pair have been read, so that they may replace the
+// are written after the columns of the next batch have been read, so that they may replace the
 // source's rows.
 //
 // A high window of h rows lies in one block of h rows or in two that follow each other: its extreme
@@ -11,6 +11,9 @@
 // local minimum and maximum filters on rectangular and octagonal kernels, Pattern Recognition
 // Letters 13, 1992; J. Gil, M. Werman: Computing 2-D min, median, and max filters, IEEE
 // Transactions on Pattern Analysis and Machine Intelligence 15, 1993).
+//
+// Every part of the work is done for a batch of rows before the next part is: loads that meet parts
+// of two stores wait for these to leave the store buffer, which short rows one by one all would.
 #if defined(KELI_MORPHOLOGY_RECTANGLE_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_MORPHOLOGY_RECTANGLE_INL_H_
 #undef KELI_MORPHOLOGY_RECTANGLE_INL_H_
@@ -134,12 +137,11 @@ class RectangleStrip : Columns<Operation, T> {
   using Base::Base;
 
   void low() const {
-    this->ofTwoRows(0, 0);
-    for (std::size_t y = 0; y < b_.rows; y += 2) {
-      const std::size_t own = y % 4;
-      if (y + 2 < b_.rows) this->ofTwoRows(y + 2, 2 - own);
-      alongRow(scratchRow(own), y);
-      if (y + 1 < b_.rows) alongRow(scratchRow(own + 1), y + 1);
+    const std::size_t batch = r_.strips.batch;
+    columnsOfBatch(0, 0);
+    for (std::size_t y = 0, own = 0; y < b_.rows; y += batch, own = batch - own) {
+      if (y + batch < b_.rows) columnsOfBatch(y + batch, batch - own);
+      alongRows(own, y, std::min(batch, b_.rows - y));
     }
   }
 
@@ -148,27 +150,44 @@ class RectangleStrip : Columns<Operation, T> {
     Lane* const beginnings = scratchRow(kept);
     for (std::size_t y = 0; y < b_.rows; y += r_.height) {
       this->endsOfBlock(y, kept);
-      for (std::size_t k = 0; k < r_.height && y + k < b_.rows; ++k) {
-        const std::size_t next = y + r_.height + k - 1;
-        if (k == 1) this->template goOn<true>(next, beginnings, scratchRow(k));
-        if (k > 1) this->template goOn<false>(next, beginnings, scratchRow(k));
-        alongRow(scratchRow(k), y + k);
+      const std::size_t rows = std::min(r_.height, b_.rows - y);
+      for (std::size_t k = 0; k < rows; k += r_.strips.batch) {
+        const std::size_t count = std::min(r_.strips.batch, rows - k);
+        for (std::size_t i = k; i < k + count; ++i) {
+          const std::size_t next = y + r_.height + i - 1;
+          if (i == 1) this->template goOn<true>(next, beginnings, scratchRow(i));
+          if (i > 1) this->template goOn<false>(next, beginnings, scratchRow(i));
+        }
+        alongRows(k, y + k, count);
       }
     }
   }
 
  private:
-  // The windows of a row of columns' extremes, to row y of the destination.
-  void alongRow(Lane* columns, std::size_t y) const {
+  void columnsOfBatch(std::size_t y, std::size_t to) const {
+    for (std::size_t k = 0; k < r_.strips.batch && y + k < b_.rows; k += 2)
+      this->ofTwoRows(y + k, to + k);
+  }
+
+  // The windows of rows of columns' extremes, from scratch row `from` on, to rows y, y + 1 and so on
+  // of the destination.
+  void alongRows(std::size_t from, std::size_t y, std::size_t count) const {
     const std::size_t last = r_.steps - 1;
     for (std::size_t i = 0; i < last; ++i) {
-      withStarts<Operation, Lane>(columns, r_.step[i], [&](const auto& windows) KELI_LAMBDA {
-        toScratch(windows, this->n_ + r_.step[i].rest, columns);
+      const Step& step = r_.step[i];
+      withStarts(step, [&](auto starts) KELI_LAMBDA {
+        for (std::size_t k = 0; k < count; ++k) {
+          Lane* const row = scratchRow(from + k);
+          toScratch(Starts<Operation, Lane, starts>(row, step), this->n_ + step.rest, row);
+        }
       });
     }
-    withStarts<Operation, Lane>(columns, r_.step[last], [&](const auto& windows) KELI_LAMBDA {
-      toImage<T, Write>(windows, b_.streams, this->n_ - Write::kTrim,
-                        b_.template dstRow<T>(y) + this->first_);
+    const Step& step = r_.step[last];
+    withStarts(step, [&](auto starts) KELI_LAMBDA {
+      for (std::size_t k = 0; k < count; ++k) {
+        toImage<T, Write>(Starts<Operation, Lane, starts>(scratchRow(from + k), step), b_.streams,
+                          this->n_ - Write::kTrim, b_.template dstRow<T>(y + k) + this->first_);
+      }
     });
   }
 };

@@ -25,7 +25,6 @@ constexpr std::size_t kMostStarts = 4;
 constexpr std::size_t kMostSteps = 32;
 // Heights up to which the rows of a window are gone through for every two rows of results.
 constexpr std::size_t kLowHeight = 8;
-constexpr std::size_t kVerticalRows = 4;  // of scratch memory, for low windows
 
 struct Step {
   std::size_t starts;  // 1 .. kMostStarts
@@ -37,6 +36,7 @@ struct Strips {
   std::size_t n;  // samples of a strip's results
   std::size_t margin;  // samples that windows reach beyond them
   std::size_t rowBytes;  // of a row of scratch memory
+  std::size_t batch;  // rows that each part of the work is done for at once, an even number
   std::uint8_t* scratch;
 };
 
@@ -66,9 +66,12 @@ struct Element {
 
 struct ExtentRows {
   using Rectangles = void (*)(const Band<1>&, const Rectangle&);
+  using Squares = void (*)(const Band<1>&, std::size_t channels);
   using Elements = void (*)(const Band<1>&, const Element&);
   Rectangles rectangle;  // C1, C3, C4
   Rectangles rectangleAC4;
+  Squares square;  // 3 x 3, not in place
+  Squares squareAC4;
   Elements element;
   Elements elementAC4;
 };

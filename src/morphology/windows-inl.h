@@ -182,18 +182,18 @@ HWY_INLINE void toImage(const Windows& windows, bool streams, std::size_t n, T* 
   }
 }
 
-// Calls f(windows) for a step's windows over a row of scratch memory.
-template <class Operation, class Lane, class F>
-HWY_INLINE void withStarts(const Lane* src, const Step& step, const F& f) {
+// Calls f with the number of a step's starts as a constant.
+template <class F>
+HWY_INLINE void withStarts(const Step& step, const F& f) {
   switch (step.starts) {
     case 1:
-      return f(Starts<Operation, Lane, 1>(src, step));
+      return f(std::integral_constant<std::size_t, 1>());
     case 2:
-      return f(Starts<Operation, Lane, 2>(src, step));
+      return f(std::integral_constant<std::size_t, 2>());
     case 3:
-      return f(Starts<Operation, Lane, 3>(src, step));
+      return f(std::integral_constant<std::size_t, 3>());
     default:
-      return f(Starts<Operation, Lane, 4>(src, step));
+      return f(std::integral_constant<std::size_t, 4>());
   }
 }
 

@@ -19,7 +19,7 @@ extern "C" void* __wrap_malloc(std::size_t count) {
 namespace keli::test {
 namespace {
 
-constexpr int kWidth = 20000, kMargin = 70, kStep = kWidth + 2 * kMargin, kHeight = 3;
+constexpr int kWidth = 20000, kMargin = 70, kStep = kWidth + 2 * kMargin, kHeight = 12;
 
 struct Images {
   std::vector<Kel8u> src, dst;
