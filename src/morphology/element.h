@@ -37,7 +37,8 @@ struct Mask {
   }
 };
 
-// The smallest part that has all bytes that are set, of which there is one; anchor is moved with it.
+// The smallest part that has all bytes that are set, of which there is one; anchor is moved with
+// it.
 inline Mask cropped(const Kel8u* bytes, KeliSize size, KeliPoint& anchor) {
   const Mask all = {bytes, std::size_t(size.width), std::size_t(size.width),
                     std::size_t(size.height)};
@@ -123,6 +124,12 @@ inline void makeElementSteps(const Mask& mask, const Lengths& lengths, std::size
                              Element& e) {
   e.height = mask.height;
   e.steps = lengths.count();
+  e.firstStep = e.steps > 1 ? 1 : 0;
+  mask.eachRun([&](std::size_t, std::size_t, std::size_t run) {
+    if (lengths.within(run) == 0) e.firstStep = 0;
+  });
+  e.step[0] = makeStep(1, 1, channels);
+  e.step[0].rest = (mask.width - 1) * channels;
   for (std::size_t i = 1; i < e.steps; ++i) {
     e.step[i] = makeStep(lengths[i - 1], lengths[i], channels);
     e.step[i].rest = (mask.width - lengths[i]) * channels;

@@ -1,4 +1,5 @@
 // Row kernels of minimum and maximum filters of 16s.
+#define KELI_ENABLE_AVX512
 #include "core/simd_config.h"
 #include "core/target.h"
 
@@ -19,7 +20,8 @@ constexpr morphology::ExtentRows kExtentRows = {
     ownExtentOfRectangle<Operation, Kel16s, WriteColours<Kel16s>>,
     ownExtentOfSquare<Operation, Kel16s, WriteAll<Kel16s>>,
     ownExtentOfSquare<Operation, Kel16s, WriteColours<Kel16s>>,
-    nullptr, nullptr,
+    nullptr,
+    nullptr,
 };
 constexpr morphology::ExtentRows kMinima16s = kExtentRows<morphology::Min>;
 constexpr morphology::ExtentRows kMaxima16s = kExtentRows<morphology::Max>;

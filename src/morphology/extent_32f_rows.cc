@@ -1,4 +1,5 @@
 // Row kernels of minimum and maximum filters of 32f.
+#define KELI_ENABLE_AVX512
 #include "core/simd_config.h"
 #include "core/target.h"
 

@@ -35,8 +35,8 @@ KelStatus rectangleOfBand(const Band<1>& b, KeliSize mask, bool inPlace) {
   r.height = static_cast<std::size_t>(mask.height);
   r.steps = makeSteps(width, kChannels, r.step);
   // In place a strip would find the margin that it shares with the one before replaced.
-  const std::size_t rowBytes = inPlace ? sizeof(T) * (b.n + 64)
-                                       : fittingRow(r.height <= kLowHeight ? 1 : r.height);
+  const std::size_t rowBytes =
+      inPlace ? sizeof(T) * (b.n + 64) : fittingRow(r.height <= kLowHeight ? 1 : r.height);
   r.strips = makeStrips(b.n, (width - 1) * kChannels, sizeof(T), rowBytes);
   Workspace workspace(bytesOfRows(scratchRows(r, b.rows), r.strips.rowBytes));
   r.strips.scratch = workspace.data();
@@ -77,8 +77,8 @@ inline Lengths lengthsOf(const Mask& mask, std::size_t widest) {
 }
 
 template <class Operation, class T, Layout kLayout>
-KelStatus element(const T* src, int srcStep, T* dst, int dstStep, KeliSize size,
-                  const Kel8u* bytes, KeliSize maskSize, KeliPoint anchor) {
+KelStatus element(const T* src, int srcStep, T* dst, int dstStep, KeliSize size, const Kel8u* bytes,
+                  KeliSize maskSize, KeliPoint anchor) {
   const Mask mask = cropped(bytes, maskSize, anchor);
   if (mask.full())
     return rectangle<Operation, T, kLayout>(src, srcStep, dst, dstStep, size,
@@ -89,10 +89,10 @@ KelStatus element(const T* src, int srcStep, T* dst, int dstStep, KeliSize size,
   Element e;
   makeElementSteps(mask, lengths, kChannels, e);
   e.chordCount = countChords(mask, lengths);
-  const std::size_t rows = e.steps * e.height;
   const Band<1> b = windowBand<T, kLayout>(src, srcStep, dst, dstStep, size, anchor);
-  e.strips = makeStrips(b.n, margin, sizeof(T), fittingRow(rows));
-  const std::size_t scratch = bytesOfRows(rows, e.strips.rowBytes);
+  e.strips = makeStrips(b.n, margin, sizeof(T), fittingRow(e.steps * e.height));
+  e.period = e.height + e.strips.batch - 1;
+  const std::size_t scratch = bytesOfRows(e.steps * e.period, e.strips.rowBytes);
   const std::size_t chords = e.chordCount * (sizeof(Chord) + sizeof(void*));
   if (scratch > SIZE_MAX - chords) return kelStatusNoMemory;
   Workspace workspace(scratch + chords);

@@ -37,7 +37,11 @@ class Columns {
   using Op = Extreme<Operation>;
 
   Columns(const Band<1>& b, const Rectangle& r, std::size_t first)
-      : b_(b), r_(r), first_(first), n_(std::min(r.strips.n, b.n - first)) {}
+      : b_(b),
+        r_(r),
+        first_(first),
+        n_(std::min(r.strips.n, b.n - first)),
+        read_(n_ + r.strips.margin) {}
 
   Lane* scratchRow(std::size_t i) const {
     return reinterpret_cast<Lane*>(r_.strips.scratch + i * r_.strips.rowBytes);
@@ -61,16 +65,21 @@ class Columns {
   // The extremes of rows k .. height - 1 of the block that begins at row y, for each k below kept;
   // those for greater k stay in no row.
   void endsOfBlock(std::size_t y, std::size_t kept) const {
-    copyRow(y + r_.height - 1, scratchRow(kept - 1));
+    Lane* const last = scratchRow(kept - 1);
+    overSourceApart(y + r_.height - 1, [&](auto d, std::size_t i, auto v)
+                                           KELI_LAMBDA { storeAnywhere(d, v, last + i); });
     for (std::size_t k = r_.height - 1; k-- > 0;)
       joinRow(y + k, scratchRow(std::min(k + 1, kept - 1)), scratchRow(std::min(k, kept - 1)));
   }
+
+  // Brings the last vector of an end's row to its place.
+  void settle(Lane* row) const { settle<64>(row); }
 
   // beginnings: row y where it is the first of its block, else joined with row y. ends: joined with
   // beginnings.
   template <bool kFirst>
   void goOn(std::size_t y, Lane* beginnings, Lane* ends) const {
-    overSource(y, [&](auto d, std::size_t i, auto v) KELI_LAMBDA {
+    overSourceApart(y, [&](auto d, std::size_t i, auto v) KELI_LAMBDA {
       if (!kFirst) v = Op::of(v, loadAnywhere(d, beginnings + i));
       storeAnywhere(d, v, beginnings + i);
       storeAnywhere(d, Op::of(v, loadAnywhere(d, ends + i)), ends + i);
@@ -82,14 +91,39 @@ class Columns {
   const Rectangle& r_;
   std::size_t first_;
   std::size_t n_;
+  std::size_t read_;
 
  private:
+  template <std::size_t kBytes>
+  HWY_INLINE void settle(Lane* row) const {
+    const LanesTag<Lane, kBytes> d;
+    constexpr std::size_t kN = hn::MaxLanes(LanesTag<Lane, kBytes>());
+    if (read_ >= kN) {
+      const Lane* const apart = row + (r_.strips.rowBytes - 64) / sizeof(T);
+      if (read_ % kN != 0) storeAnywhere(d, loadAnywhere(d, apart), row + read_ - kN);
+    } else if constexpr (kN * sizeof(Lane) > 16) {
+      settle<kN * sizeof(Lane) / 2>(row);
+    }
+  }
+
   // Calls f(d, i, v) with the vectors of row y of the image, up to the last window's end.
   template <class F>
   HWY_INLINE void overSource(std::size_t y, const F& f) const {
     const T* const src = b_.srcRow<T>(0, y) + first_;
-    overRow<Lane>(n_ + r_.strips.margin,
+    overRow<Lane>(read_,
                   [&](auto d, std::size_t i) KELI_LAMBDA { f(d, i, loadOrdered(d, src + i)); });
+  }
+
+  // The same for rows of scratch memory that are read and written by turns: one at a time a last
+  // vector that overlaps the one before would wait for what has just been stored. It has a place of
+  // its own at the row's end, where settle() finds it.
+  template <class F>
+  HWY_INLINE void overSourceApart(std::size_t y, const F& f) const {
+    const T* const src = b_.srcRow<T>(0, y) + first_;
+    const std::size_t apart = r_.strips.rowBytes / sizeof(T) - 64 / sizeof(T);
+    overRow<Lane>(
+        read_, [&](auto d, std::size_t i) KELI_LAMBDA { f(d, i, loadOrdered(d, src + i)); },
+        [&](auto d, std::size_t i) KELI_LAMBDA { f(d, apart, loadOrdered(d, src + i)); });
   }
 
   template <std::size_t kHeight>
@@ -110,16 +144,19 @@ class Columns {
   }
 
   void ofRow(std::size_t y, Lane* dst) const {
-    copyRow(y, dst);
-    for (std::size_t row = 1; row < r_.height; ++row) joinRow(y + row, dst, dst);
-  }
-
-  void copyRow(std::size_t y, Lane* dst) const {
-    overSource(y, [&](auto d, std::size_t i, auto v) KELI_LAMBDA { storeAnywhere(d, v, dst + i); });
+    const std::uint8_t* const src = bytes(b_.srcRow<T>(0, y) + first_);
+    const std::ptrdiff_t step = b_.srcStep[0];
+    overSource(y, [&](auto d, std::size_t i, auto v) KELI_LAMBDA {
+      for (std::size_t row = 1; row < r_.height; ++row) {
+        const std::uint8_t* const p = src + static_cast<std::ptrdiff_t>(row) * step;
+        v = Op::of(v, loadOrdered(d, reinterpret_cast<const T*>(p) + i));
+      }
+      storeAnywhere(d, v, dst + i);
+    });
   }
 
   void joinRow(std::size_t y, const Lane* with, Lane* dst) const {
-    overSource(y, [&](auto d, std::size_t i, auto v) KELI_LAMBDA {
+    overSourceApart(y, [&](auto d, std::size_t i, auto v) KELI_LAMBDA {
       storeAnywhere(d, Op::of(v, loadAnywhere(d, with + i)), dst + i);
     });
   }
@@ -128,10 +165,10 @@ class Columns {
 template <class Operation, class T, class Write>
 class RectangleStrip : Columns<Operation, T> {
   using Base = Columns<Operation, T>;
-  using typename Base::Lane;
   using Base::b_;
   using Base::r_;
   using Base::scratchRow;
+  using typename Base::Lane;
 
  public:
   using Base::Base;
@@ -157,6 +194,7 @@ class RectangleStrip : Columns<Operation, T> {
           const std::size_t next = y + r_.height + i - 1;
           if (i == 1) this->template goOn<true>(next, beginnings, scratchRow(i));
           if (i > 1) this->template goOn<false>(next, beginnings, scratchRow(i));
+          this->settle(scratchRow(i));
         }
         alongRows(k, y + k, count);
       }
@@ -169,8 +207,8 @@ class RectangleStrip : Columns<Operation, T> {
       this->ofTwoRows(y + k, to + k);
   }
 
-  // The windows of rows of columns' extremes, from scratch row `from` on, to rows y, y + 1 and so on
-  // of the destination.
+  // The windows of rows of columns' extremes, from scratch row `from` on, to rows y, y + 1 and so
+  // on of the destination.
   void alongRows(std::size_t from, std::size_t y, std::size_t count) const {
     const std::size_t last = r_.steps - 1;
     for (std::size_t i = 0; i < last; ++i) {

@@ -27,16 +27,16 @@ constexpr std::size_t kMostSteps = 32;
 constexpr std::size_t kLowHeight = 8;
 
 struct Step {
-  std::size_t starts;  // 1 .. kMostStarts
+  std::size_t starts;              // 1 .. kMostStarts
   std::size_t start[kMostStarts];  // in samples, the first 0
   std::size_t rest;  // samples of a row by which windows of this length outnumber full ones
 };
 
 struct Strips {
-  std::size_t n;  // samples of a strip's results
-  std::size_t margin;  // samples that windows reach beyond them
+  std::size_t n;         // samples of a strip's results
+  std::size_t margin;    // samples that windows reach beyond them
   std::size_t rowBytes;  // of a row of scratch memory
-  std::size_t batch;  // rows that each part of the work is done for at once, an even number
+  std::size_t batch;     // rows that each part of the work is done for at once, an even number
   std::uint8_t* scratch;
 };
 
@@ -57,7 +57,9 @@ struct Chord {
 struct Element {
   Strips strips;
   std::size_t height;
-  std::size_t steps;  // the first is the row itself
+  std::size_t period;     // rows of the image whose windows are kept
+  std::size_t firstStep;  // 1 where no run is a single pixel, else 0: windows of one pixel
+  std::size_t steps;
   Step step[kMostSteps];
   std::size_t chordCount;
   const Chord* chords;

@@ -22,19 +22,19 @@ namespace keli::HWY_NAMESPACE {
 
 using morphology::Step;
 
-template <class Lane, std::size_t kBytes = 32>
+template <class Lane, std::size_t kBytes = 64>
 using LanesTag = hn::CappedTag<Lane, kBytes / sizeof(Lane)>;
 
 // Calls body(d, i) so that the vectors from each i on cover n samples of a row and no others; some
 // meet samples that another has met.
-template <class Lane, std::size_t kBytes = 32, class Body>
-HWY_INLINE void overRow(std::size_t n, const Body& body) {
+template <class Lane, std::size_t kBytes = 64, class Body, class Last>
+HWY_INLINE void overRow(std::size_t n, const Body& body, const Last& last) {
   const LanesTag<Lane, kBytes> d;
   constexpr std::size_t kN = hn::MaxLanes(LanesTag<Lane, kBytes>());
   std::size_t i = 0;
   if (n < kN) {
-    if constexpr (kN * sizeof(Lane) == 32) {
-      overRow<Lane, 16>(n, body);
+    if constexpr (kN * sizeof(Lane) > 16) {
+      overRow<Lane, kN * sizeof(Lane) / 2>(n, body, last);
     } else {
       for (; i < n; ++i) body(hn::CappedTag<Lane, 1>(), i);
     }
@@ -44,7 +44,12 @@ HWY_INLINE void overRow(std::size_t n, const Body& body) {
     unrolled<4>([&](auto u) KELI_LAMBDA { body(d, i + u * kN); });
   }
   for (; i + kN <= n; i += kN) body(d, i);
-  if (i < n) body(d, n - kN);
+  if (i < n) last(d, n - kN);
+}
+
+template <class Lane, class Body>
+HWY_INLINE void overRow(std::size_t n, const Body& body) {
+  overRow<Lane>(n, body, body);
 }
 
 // The extreme of kCount samples, or of a number known at run time: extremes(d, i, v) gives those of
@@ -79,9 +84,15 @@ struct AnyStarts {
     const auto at = [&](std::size_t k, std::size_t u) KELI_LAMBDA {
       return loadAnywhere(d, static_cast<const Lane*>(rows[k]) + i + u * kN);
     };
-    unrolled<kVectors>([&](auto u) KELI_LAMBDA { v[u] = at(0, u); });
-    for (std::size_t k = 1; k < count; ++k) {
-      unrolled<kVectors>([&](auto u) KELI_LAMBDA { v[u] = Extreme<Operation>::of(v[u], at(k, u)); });
+    std::size_t k = count % 2 == 0 ? 2 : 1;
+    unrolled<kVectors>([&](auto u) KELI_LAMBDA {
+      v[u] = at(0, u);
+      if (k == 2) v[u] = Extreme<Operation>::of(v[u], at(1, u));
+    });
+    for (; k < count; k += 2) {
+      unrolled<kVectors>([&](auto u) KELI_LAMBDA {
+        v[u] = Extreme<Operation>::of(v[u], Extreme<Operation>::of(at(k, u), at(k + 1, u)));
+      });
     }
   }
 };

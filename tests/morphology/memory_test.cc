@@ -62,8 +62,9 @@ TEST(MorphologyMemory, LargeWindowsNeedRows) {
   });
   expectStatus(kelStatusNoMemory,
                [&](Images& i) { return keliErode3x3_8u_C1IR(i.from(), kStep, kRoi); });
-  expectStatus(kelStatusOk,
-               [&](Images& i) { return keliErode3x3_8u_C1IR(i.from(), kStep, {1000, 1}); });
+  expectStatus(kelStatusOk, [&](Images& i) {
+    return keliErode3x3_8u_C1IR(i.from(), kStep, {1000, 1});
+  });
   std::vector<Kel8u> element(64 * 64);
   for (std::size_t i = 0; i < element.size(); ++i) element[i] = i % 3 == 0;
   expectStatus(kelStatusNoMemory, [&](Images& i) {

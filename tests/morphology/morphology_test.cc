@@ -167,8 +167,16 @@ std::vector<Case> cases(const Function& f) {
     for (int height = 1; height <= 6; ++height)
       add({width, height}, element ? static_cast<Shape>((width + height) % 3) : Shape::kAll);
   }
-  for (const KeliSize mask : {KeliSize{15, 15}, {31, 31}, {64, 9}, {9, 64}, {40, 1}, {1, 40},
-                              {8, 8}, {9, 9}, {17, 10}, {70, 33}})
+  for (const KeliSize mask : {KeliSize{15, 15},
+                              {31, 31},
+                              {64, 9},
+                              {9, 64},
+                              {40, 1},
+                              {1, 40},
+                              {8, 8},
+                              {9, 9},
+                              {17, 10},
+                              {70, 33}})
     add(mask, Shape::kAll);
   all.push_back({{700, 21}, {5, 4}, Shape::kAll});
   all.push_back({{1501, 11}, {2, 10}, Shape::kAll});
@@ -197,10 +205,10 @@ TEST(Morphology, EqualsTheDefinition) {
 
 // Floats of any bits: NaNs of both signs and all payloads.
 TEST(Morphology, NumbersAndNaNsHaveOneOrder) {
-  constexpr std::uint32_t kOrder[] = {0xFFFFFFFF, 0xFFC00000, 0xFF800001, 0xFF800000, 0xFF7FFFFF,
-                                      0xBF800000, 0x80000001, 0x80000000, 0x00000000, 0x00000001,
-                                      0x3F800000, 0x7F7FFFFF, 0x7F800000, 0x7F800001, 0x7FC00000,
-                                      0x7FFFFFFF};
+  constexpr std::uint32_t kOrder[] = {0xFFFFFFFF, 0xFFC00000, 0xFF800001, 0xFF800000,
+                                      0xFF7FFFFF, 0xBF800000, 0x80000001, 0x80000000,
+                                      0x00000000, 0x00000001, 0x3F800000, 0x7F7FFFFF,
+                                      0x7F800000, 0x7F800001, 0x7FC00000, 0x7FFFFFFF};
   for (const std::int64_t target : testedTargets()) {
     const UseTarget use(target);
     for (std::size_t a = 0; a < std::size(kOrder); ++a) {
