@@ -1,6 +1,6 @@
 // Extremes of the pixels that an element selects: of each row of the image the extremes of windows
-// as long as the runs of the element's rows, kept for the rows of an element and of a batch of
-// results; a result is the extreme of one of them for each run.
+// as long as the runs of the element's rows, kept for as many rows as the element has; a result is
+// the extreme of one of them for each run.
 #if defined(KELI_MORPHOLOGY_ELEMENT_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_MORPHOLOGY_ELEMENT_INL_H_
 #undef KELI_MORPHOLOGY_ELEMENT_INL_H_
@@ -25,32 +25,27 @@ class ElementStrip {
       : b_(b), e_(e), first_(first), n_(std::min(e.strips.n, b.n - first)) {}
 
   void run() const {
-    windowsOfRows(0, e_.height - 1);
-    for (std::size_t y = 0; y < b_.rows; y += e_.strips.batch) {
-      const std::size_t count = std::min(e_.strips.batch, b_.rows - y);
-      windowsOfRows(y + e_.height - 1, count);
-      for (std::size_t k = 0; k < count; ++k) resultsOfRow(y + k);
+    for (std::size_t y = 0; y + 1 < e_.height; ++y) windowsOfRow(y);
+    for (std::size_t y = 0; y < b_.rows; ++y) {
+      windowsOfRow(y + e_.height - 1);
+      resultsOfRow(y);
     }
   }
 
  private:
   // Where the windows of a step over row y of the image are kept.
   Lane* windows(std::size_t y, std::size_t step) const {
-    const std::size_t row = y % e_.period * e_.steps + step;
+    const std::size_t row = y % e_.height * e_.steps + step;
     return reinterpret_cast<Lane*>(e_.strips.scratch + row * e_.strips.rowBytes);
   }
 
-  void windowsOfRows(std::size_t first, std::size_t count) const {
-    withStarts(e_.step[e_.firstStep], [&](auto starts) KELI_LAMBDA {
-      for (std::size_t y = first; y < first + count; ++y) windowsOfSource<starts>(y);
-    });
+  void windowsOfRow(std::size_t y) const {
+    withStarts(e_.step[e_.firstStep], [&](auto starts) KELI_LAMBDA { windowsOfSource<starts>(y); });
     for (std::size_t i = e_.firstStep + 1; i < e_.steps; ++i) {
       const Step& step = e_.step[i];
       withStarts(step, [&](auto starts) KELI_LAMBDA {
-        for (std::size_t y = first; y < first + count; ++y) {
-          const Starts<Operation, Lane, starts> shorter(windows(y, i - 1), step);
-          toScratch(shorter, n_ + step.rest, windows(y, i));
-        }
+        const Starts<Operation, Lane, starts> shorter(windows(y, i - 1), step);
+        toScratch(shorter, n_ + step.rest, windows(y, i));
       });
     }
   }

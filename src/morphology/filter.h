@@ -24,7 +24,7 @@ Band<1> windowBand(const T* src, int srcStep, T* dst, int dstStep, KeliSize size
 
 // Rows of scratch memory that a rectangle takes.
 inline std::size_t scratchRows(const Rectangle& r, std::size_t rows) {
-  return r.height <= kLowHeight ? 2 * r.strips.batch : std::min(r.height, rows) + 1;
+  return r.height <= kLowHeight ? 2 * r.batch : std::min(r.height, rows) + 1;
 }
 
 template <class Operation, class T, Layout kLayout>
@@ -38,6 +38,7 @@ KelStatus rectangleOfBand(const Band<1>& b, KeliSize mask, bool inPlace) {
   const std::size_t rowBytes =
       inPlace ? sizeof(T) * (b.n + 64) : fittingRow(r.height <= kLowHeight ? 1 : r.height);
   r.strips = makeStrips(b.n, (width - 1) * kChannels, sizeof(T), rowBytes);
+  r.batch = batchOf(r.strips);
   Workspace workspace(bytesOfRows(scratchRows(r, b.rows), r.strips.rowBytes));
   r.strips.scratch = workspace.data();
   if (r.strips.scratch == nullptr) return kelStatusNoMemory;
@@ -91,9 +92,8 @@ KelStatus element(const T* src, int srcStep, T* dst, int dstStep, KeliSize size,
   e.chordCount = countChords(mask, lengths);
   const Band<1> b = windowBand<T, kLayout>(src, srcStep, dst, dstStep, size, anchor);
   e.strips = makeStrips(b.n, margin, sizeof(T), fittingRow(e.steps * e.height));
-  e.period = e.height + e.strips.batch - 1;
-  const std::size_t scratch = bytesOfRows(e.steps * e.period, e.strips.rowBytes);
-  const std::size_t chords = e.chordCount * (sizeof(Chord) + sizeof(void*));
+  const std::size_t scratch = bytesOfRows(e.steps * e.height, e.strips.rowBytes);
+  const std::size_t chords = bytesOfRows(e.chordCount, sizeof(Chord) + sizeof(void*));
   if (scratch > SIZE_MAX - chords) return kelStatusNoMemory;
   Workspace workspace(scratch + chords);
   e.strips.scratch = workspace.data();

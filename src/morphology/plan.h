@@ -74,15 +74,19 @@ inline std::size_t makeSteps(std::size_t width, std::size_t channels, Step (&ste
 
 // Strips as wide as the region, or such that a row takes about rowBytes bytes, but not so narrow
 // that their margins are most of it. Rows end with room for four vectors
-// beyond, and a line for one that stands apart.
+// beyond.
 inline Strips makeStrips(std::size_t n, std::size_t margin, std::size_t sampleBytes,
                          std::size_t rowBytes) {
   const std::size_t most = std::max(rowBytes, 4 * margin * sampleBytes) / sampleBytes / 64 * 64;
-  Strips strips = {std::min(n, most), margin, 0, 0, nullptr};
-  strips.rowBytes = ((strips.n + margin) * sampleBytes + 256 + 64 + 63) / 64 * 64;
-  constexpr std::size_t kBatchBytes = 6144, kMostRows = 16;
-  strips.batch = std::clamp<std::size_t>(kBatchBytes / strips.rowBytes / 2 * 2, 2, kMostRows);
+  Strips strips = {std::min(n, most), margin, 0, nullptr};
+  strips.rowBytes = ((strips.n + margin) * sampleBytes + 256 + 63) / 64 * 64;
   return strips;
+}
+
+// Rows of scratch memory that stay in the first-level cache beside those of the images.
+inline std::size_t batchOf(const Strips& strips) {
+  constexpr std::size_t kBatchBytes = 6144, kMostRows = 16;
+  return std::clamp<std::size_t>(kBatchBytes / strips.rowBytes / 2 * 2, 2, kMostRows);
 }
 
 // Bytes of a row of scratch memory, of which so many are used by turns.

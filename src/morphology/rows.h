@@ -36,13 +36,13 @@ struct Strips {
   std::size_t n;         // samples of a strip's results
   std::size_t margin;    // samples that windows reach beyond them
   std::size_t rowBytes;  // of a row of scratch memory
-  std::size_t batch;     // rows that each part of the work is done for at once, an even number
   std::uint8_t* scratch;
 };
 
 struct Rectangle {
   Strips strips;
   std::size_t height;
+  std::size_t batch;  // rows that each part of the work is done for at once, an even number
   std::size_t steps;
   Step step[kMostSteps];
 };
@@ -57,7 +57,6 @@ struct Chord {
 struct Element {
   Strips strips;
   std::size_t height;
-  std::size_t period;     // rows of the image whose windows are kept
   std::size_t firstStep;  // 1 where no run is a single pixel, else 0: windows of one pixel
   std::size_t steps;
   Step step[kMostSteps];
