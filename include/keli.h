@@ -2942,9 +2942,9 @@ KELI_API KelStatus keliHistogramEven_16s_AC4R(const Kel16s* pSrc, int srcStep, K
  * they are met in: a NaN without a sign prevails over numbers in maxima and is passed over in
  * minima, one with a sign the other way round.
  *
- * The time for a pixel does not depend on the height of the mask, from about 16 rows on, and
- * rises with the logarithm of its width. kelStatusNoMemory is returned, with nothing written,
- * where the rows that high or wide masks need cannot be allocated.
+ * The time for a pixel does not depend on the height of the mask, from 9 rows on, and rises
+ * with the logarithm of its width. kelStatusNoMemory is returned, with nothing written, where
+ * the rows that high or wide masks need cannot be allocated.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
  * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusBadMaskSize if
