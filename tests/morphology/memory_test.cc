@@ -20,6 +20,7 @@ namespace keli::test {
 namespace {
 
 constexpr int kWidth = 20000, kMargin = 70, kStep = kWidth + 2 * kMargin, kHeight = 12;
+constexpr KeliSize kRoi = {kWidth, kHeight};
 
 struct Images {
   std::vector<Kel8u> src, dst;
@@ -48,7 +49,6 @@ void expectStatus(KelStatus without, const Call& call) {
 }
 
 TEST(MorphologyMemory, LargeWindowsNeedRows) {
-  constexpr KeliSize kRoi = {kWidth, kHeight};
   const auto max = [](KeliSize mask) {
     return [=](Images& i) {
       return keliFilterMax_8u_C1R(i.from(), kStep, i.dst.data(), kWidth, kRoi, mask, {0, 0});

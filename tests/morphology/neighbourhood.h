@@ -29,7 +29,7 @@ class Framed {
  public:
   Framed(const registry::Argument& a, KeliSize region, const Neighbourhood& around, int padding,
          bool atEnd)
-      : region_(region), around_(around), pixel_(pixelSamples(a.layout)), type_(a.type) {
+      : around_(around), pixel_(pixelSamples(a.layout)), type_(a.type) {
     bytes_ = static_cast<int>(registry::bytesOf(type_));
     step_ = (region.width + around.mask.width - 1) * pixel_ * bytes_ + padding;
     const int rows = region.height + around.mask.height - 1;
@@ -62,7 +62,6 @@ class Framed {
   std::vector<std::uint8_t> contents() const { return {block_, block_ + size_}; }
 
  private:
-  KeliSize region_;
   Neighbourhood around_;
   int pixel_;
   registry::Type type_;
