@@ -74,12 +74,12 @@ inline std::size_t makeSteps(std::size_t width, std::size_t channels, Step (&ste
 
 // Strips as wide as the region, or such that a row takes about rowBytes bytes, but not so narrow
 // that their margins are most of it. Rows end with room for four vectors
-// beyond.
+// beyond, and a line for one that stands apart.
 inline Strips makeStrips(std::size_t n, std::size_t margin, std::size_t sampleBytes,
                          std::size_t rowBytes) {
   const std::size_t most = std::max(rowBytes, 4 * margin * sampleBytes) / sampleBytes / 64 * 64;
   Strips strips = {std::min(n, most), margin, 0, nullptr};
-  strips.rowBytes = ((strips.n + margin) * sampleBytes + 256 + 63) / 64 * 64;
+  strips.rowBytes = ((strips.n + margin) * sampleBytes + 256 + 64 + 63) / 64 * 64;
   return strips;
 }
 

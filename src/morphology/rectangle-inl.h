@@ -67,17 +67,20 @@ class Columns {
   // those for greater k stay in no row.
   void endsOfBlock(std::size_t y, std::size_t kept) const {
     Lane* const last = scratchRow(kept - 1);
-    overSource(y + r_.height - 1,
-               [&](auto d, std::size_t i, auto v) KELI_LAMBDA { storeAnywhere(d, v, last + i); });
+    overSourceApart(y + r_.height - 1, [&](auto d, std::size_t i, auto v)
+                                           KELI_LAMBDA { storeAnywhere(d, v, last + i); });
     for (std::size_t k = r_.height - 1; k-- > 0;)
       joinRow(y + k, scratchRow(std::min(k + 1, kept - 1)), scratchRow(std::min(k, kept - 1)));
   }
+
+  // Brings the last vector of an end's row to its place.
+  void settle(Lane* row) const { settle<64>(row); }
 
   // beginnings: row y where it is the first of its block, else joined with row y. ends: joined with
   // beginnings.
   template <bool kFirst>
   void goOn(std::size_t y, Lane* beginnings, Lane* ends) const {
-    overSource(y, [&](auto d, std::size_t i, auto v) KELI_LAMBDA {
+    overSourceApart(y, [&](auto d, std::size_t i, auto v) KELI_LAMBDA {
       if (!kFirst) v = Op::of(v, loadAnywhere(d, beginnings + i));
       storeAnywhere(d, v, beginnings + i);
       storeAnywhere(d, Op::of(v, loadAnywhere(d, ends + i)), ends + i);
@@ -92,12 +95,37 @@ class Columns {
   std::size_t read_;
 
  private:
+  template <std::size_t kBytes>
+  HWY_INLINE void settle(Lane* row) const {
+    const LanesTag<Lane, kBytes> d;
+    constexpr std::size_t kN = hn::MaxLanes(LanesTag<Lane, kBytes>());
+    if (read_ >= kN) {
+      const Lane* const apart = row + (r_.strips.rowBytes - 64) / sizeof(T);
+      if (read_ % kN != 0) storeAnywhere(d, loadAnywhere(d, apart), row + read_ - kN);
+    } else if constexpr (kN * sizeof(Lane) > 16) {
+      settle<kN * sizeof(Lane) / 2>(row);
+    }
+  }
+
   // Calls f(d, i, v) with the vectors of row y of the image, up to the last window's end.
   template <class F>
   HWY_INLINE void overSource(std::size_t y, const F& f) const {
     const T* const src = b_.srcRow<T>(0, y) + first_;
     overRow<Lane>(read_,
                   [&](auto d, std::size_t i) KELI_LAMBDA { f(d, i, loadOrdered(d, src + i)); });
+  }
+
+  // The same for rows of scratch memory that are read and written by turns: one at a time a last
+  // vector that overlaps the one before would wait for what has just been stored. It has a place of
+  // its own at the row's end, where settle() finds it. Without, windows of 15 x 15 took 1.3 to 1.5
+  // times as long at 64x64.
+  template <class F>
+  HWY_INLINE void overSourceApart(std::size_t y, const F& f) const {
+    const T* const src = b_.srcRow<T>(0, y) + first_;
+    const std::size_t apart = r_.strips.rowBytes / sizeof(T) - 64 / sizeof(T);
+    overRow<Lane>(
+        read_, [&](auto d, std::size_t i) KELI_LAMBDA { f(d, i, loadOrdered(d, src + i)); },
+        [&](auto d, std::size_t i) KELI_LAMBDA { f(d, apart, loadOrdered(d, src + i)); });
   }
 
   template <std::size_t kHeight>
@@ -130,7 +158,7 @@ class Columns {
   }
 
   void joinRow(std::size_t y, const Lane* with, Lane* dst) const {
-    overSource(y, [&](auto d, std::size_t i, auto v) KELI_LAMBDA {
+    overSourceApart(y, [&](auto d, std::size_t i, auto v) KELI_LAMBDA {
       storeAnywhere(d, Op::of(v, loadAnywhere(d, with + i)), dst + i);
     });
   }
@@ -168,6 +196,7 @@ class RectangleStrip : Columns<Operation, T> {
           const std::size_t next = y + r_.height + i - 1;
           if (i == 1) this->template goOn<true>(next, beginnings, scratchRow(i));
           if (i > 1) this->template goOn<false>(next, beginnings, scratchRow(i));
+          this->settle(scratchRow(i));
         }
         alongRows(k, y + k, count);
       }

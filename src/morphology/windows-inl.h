@@ -27,14 +27,14 @@ using LanesTag = hn::CappedTag<Lane, kBytes / sizeof(Lane)>;
 
 // Calls body(d, i) so that the vectors from each i on cover n samples of a row and no others; some
 // meet samples that another has met.
-template <class Lane, std::size_t kBytes = 64, class Body>
-HWY_INLINE void overRow(std::size_t n, const Body& body) {
+template <class Lane, std::size_t kBytes = 64, class Body, class Last>
+HWY_INLINE void overRow(std::size_t n, const Body& body, const Last& last) {
   const LanesTag<Lane, kBytes> d;
   constexpr std::size_t kN = hn::MaxLanes(LanesTag<Lane, kBytes>());
   std::size_t i = 0;
   if (n < kN) {
     if constexpr (kN * sizeof(Lane) > 16) {
-      overRow<Lane, kN * sizeof(Lane) / 2>(n, body);
+      overRow<Lane, kN * sizeof(Lane) / 2>(n, body, last);
     } else {
       for (; i < n; ++i) body(hn::CappedTag<Lane, 1>(), i);
     }
@@ -44,7 +44,12 @@ HWY_INLINE void overRow(std::size_t n, const Body& body) {
     unrolled<4>([&](auto u) KELI_LAMBDA { body(d, i + u * kN); });
   }
   for (; i + kN <= n; i += kN) body(d, i);
-  if (i < n) body(d, n - kN);
+  if (i < n) last(d, n - kN);
+}
+
+template <class Lane, class Body>
+HWY_INLINE void overRow(std::size_t n, const Body& body) {
+  overRow<Lane>(n, body, body);
 }
 
 // The extreme of kCount samples, or of a number known at run time: extremes(d, i, v) gives those of
