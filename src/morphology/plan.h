@@ -89,9 +89,10 @@ inline std::size_t batchOf(const Strips& strips) {
   return std::clamp<std::size_t>(kBatchBytes / strips.rowBytes / 2 * 2, 2, kMostRows);
 }
 
-// Bytes of a row of scratch memory, of which so many are used by turns.
+// Bytes of a row of scratch memory, of which so many are used by turns: half of a second-level
+// cache. Narrower strips of images beyond the caches took up to twice as long.
 inline std::size_t fittingRow(std::size_t rows) {
-  constexpr std::size_t kAll = 262144, kLeast = 1024, kMost = 4096;
+  constexpr std::size_t kAll = 1048576, kLeast = 1024, kMost = 16384;
   return std::clamp(kAll / rows, kLeast, kMost);
 }
 
