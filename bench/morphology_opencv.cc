@@ -16,7 +16,7 @@ cv::Mat element(const Frame& f) {
 template <void (*kOperation)(cv::InputArray, cv::OutputArray, cv::InputArray, cv::Point, int, int,
                              const cv::Scalar&)>
 Work filter(const Frame& f) {
-  const cv::Mat dst = mat(f.destination()), src = f.inPlace() ? dst : mat(f.source());
+  const cv::Mat dst = mat(f.destination()), src = mat(f.source());
   const KeliSize size = f.choices().mask;
   const cv::Point anchor(size.width / 2, size.height / 2);
   return [src, dst, mask = element(f), anchor]() mutable {
@@ -30,7 +30,6 @@ const AddPeers kPeers({
     {"keliFilterMin_{8u,16s,32f}_AC4R", "OpenCV erode, alpha too", filter<cv::erode>},
     {"keliDilate3x3_{8u,32f}_{C1R,C3R,C4R}", "OpenCV dilate", filter<cv::dilate>},
     {"keliErode3x3_{8u,32f}_{C1R,C3R,C4R}", "OpenCV erode", filter<cv::erode>},
-    {"keliErode3x3_{8u,32f}_{C1IR,C3IR}", "OpenCV erode", filter<cv::erode>},
     {"keliErode_{8u,32f}_{C1R,C3R,C4R}", "OpenCV erode", filter<cv::erode>},
     {"keliDilate_{8u,32f}_C1R", "OpenCV dilate", filter<cv::dilate>},
 });

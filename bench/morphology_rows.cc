@@ -14,7 +14,6 @@ std::vector<Row> morphologyRows() {
       rows.push_back({"keliFilterMin_{8u,16s,32f}_{C3R,AC4R,C4R}", Limit::kMove, choices});
   }
   rows.push_back({"keli{Erode3x3,Dilate3x3}_{8u,32f}_{C1R,C3R,AC4R,C4R}", Limit::kMove});
-  rows.push_back({"keliErode3x3_{8u,32f}_{C1IR,C3IR,AC4IR,C4IR}", Limit::kMove});
   Choices choices;
   choices.mask = {7, 7};
   rows.push_back({"keliErode_{8u,32f}_{C1R,C3R,AC4R,C4R}", Limit::kMove, choices});
