@@ -68,6 +68,7 @@ void Frame::addElement() {
       mask[y * width + x] = choices_.element == Element::kAll || u * u + v * v <= 1;
     }
   }
+  element_ = mask;
   Value value;
   value.p = mask;
   values_.push_back(value);

@@ -30,6 +30,8 @@ class Frame {
   std::size_t sourceCount() const { return sources_.size(); }
   bool hasDestination() const { return destination_ != nullptr; }
   const Choices& choices() const { return choices_; }
+  // The bytes of a structuring element, null where the function takes none.
+  const std::uint8_t* element() const { return element_; }
   int scaleFactor() const { return choices_.scaleFactor; }
   // Level i of a histogram.
   double level(int i) const {
@@ -72,6 +74,7 @@ class Frame {
   std::vector<std::unique_ptr<Image>> maps_;
   std::vector<std::unique_ptr<std::uint64_t[]>> arrays_;
   std::vector<registry::Value> values_;
+  const std::uint8_t* element_ = nullptr;
   int lastStep_ = 0;
   struct Result {
     registry::Type type;

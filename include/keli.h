@@ -3443,6 +3443,156 @@ KELI_API KelStatus keliFilterBox_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliS
 KELI_API KelStatus keliFilterBox_32f_C4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
 KELI_API KelStatus keliFilterBox_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
 
+/* ==== Minimum and maximum filters, erosion and dilation ==== */
+
+/**
+ * Replaces every pixel by the smallest or largest of a rectangle around it.
+ *
+ *     dst(x, y) = min or max over 0 <= i < maskSize.width, 0 <= j < maskSize.height of src(x - anchor.x + i, y - anchor.y + j)
+ *
+ * Each channel by itself. pSrc addresses the pixel that belongs to the first one of the
+ * destination; anchor.x columns to the left of the region, maskSize.width - 1 - anchor.x to the
+ * right, anchor.y rows above and maskSize.height - 1 - anchor.y below are read and have to
+ * exist. Source and destination may not overlap. A mask of any size is accepted, also one pixel
+ * wide or high; one of 1 x 1 copies the region. AC4 leaves the fourth sample of every pixel of
+ * the destination as it was.
+ *
+ * 32f: samples compare in the total order of IEEE 754, in which -NaN < -infinity < ... < -0 <
+ * +0 < ... < +infinity < +NaN. A result has the bits of one of the samples, whichever order
+ * they are met in: a NaN without a sign prevails over numbers in maxima and is passed over in
+ * minima, one with a sign the other way round.
+ *
+ * The time for a pixel does not depend on the height of the mask, from 9 rows on, and rises
+ * with the logarithm of its width. kelStatusNoMemory is returned, with nothing written, where
+ * the rows that high or wide masks need cannot be allocated.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusBadMaskSize if
+ * maskSize is below 1 in width or height; kelStatusBadAnchor if anchor lies outside the mask.
+ */
+KELI_API KelStatus keliFilterMin_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMin_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMin_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMin_8u_C4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMin_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMin_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMin_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMin_16s_C4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMin_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMin_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMin_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMin_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMax_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMax_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMax_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMax_8u_C4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMax_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMax_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMax_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMax_16s_C4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMax_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMax_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMax_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliFilterMax_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, KeliSize maskSize, KeliPoint anchor);
+
+/**
+ * Replaces every pixel by the smallest (erosion) or largest (dilation) of the nine around it.
+ *
+ *     dst(x, y) = min or max over -1 <= i <= 1, -1 <= j <= 1 of src(x + i, y + j)
+ *
+ * Each channel by itself. One column on each side of the region and one row above and below are
+ * read and have to exist; a row that is read must lie within its step, so the step of the
+ * source, or of the image in place, is at least as long as roiSize.width + 2 pixels. In place
+ * all results are of the samples before the call, and the margin is not written. AC4 leaves the
+ * fourth sample of every pixel as it was.
+ *
+ * 32f: samples compare in the total order of IEEE 754, in which -NaN < -infinity < ... < -0 <
+ * +0 < ... < +infinity < +NaN, as for FilterMin. kelStatusNoMemory is returned, with nothing
+ * written, where the rows that wide images in place need cannot be allocated.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusStepTooSmall if
+ * a step is shorter than the row that is read or written.
+ */
+KELI_API KelStatus keliErode3x3_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_8u_C4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_8u_C1IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_8u_C3IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_8u_AC4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_8u_C4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliErode3x3_32f_C4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_8u_C4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_8u_C1IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_8u_C3IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_8u_AC4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_8u_C4IR(Kel8u* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_32f_C1IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_32f_C3IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_32f_AC4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+KELI_API KelStatus keliDilate3x3_32f_C4IR(Kel32f* pSrcDst, int srcDstStep, KeliSize roiSize);
+
+/**
+ * Replaces every pixel by the smallest (erosion) or largest (dilation) of those that a
+ * structuring element selects.
+ *
+ *     dst(x, y) = min or max over the (i, j) with pMask[j * maskSize.width + i] != 0 of src(x - anchor.x + i, y - anchor.y + j)
+ *
+ * Each channel by itself. The element is maskSize.width bytes for each of maskSize.height rows,
+ * without padding; any byte but 0 selects. It is laid on as it is, not turned by 180 degrees.
+ * anchor.x columns to the left of the region, maskSize.width - 1 - anchor.x to the right,
+ * anchor.y rows above and maskSize.height - 1 - anchor.y below have to exist, and rows that are
+ * read lie within the source's step: it is at least as long as roiSize.width + maskSize.width -
+ * 1 pixels. Source and destination may not overlap. AC4 leaves the fourth sample of every pixel
+ * of the destination as it was.
+ *
+ * 32f: samples compare in the total order of IEEE 754, in which -NaN < -infinity < ... < -0 <
+ * +0 < ... < +infinity < +NaN, as for FilterMin. A single byte that is set copies the pixels at
+ * its place.
+ *
+ * The time for a pixel grows with the number of runs of bytes that are set in the element's
+ * rows; if all bytes within the smallest rectangle around them are set, it is that of
+ * FilterMin. kelStatusNoMemory is returned, with nothing written, where scratch memory cannot
+ * be allocated.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadMaskSize if
+ * maskSize is below 1 in width or height; kelStatusZeroMask if every byte of the mask is 0;
+ * kelStatusBadAnchor if anchor lies outside the mask; kelStatusStepTooSmall if a step is
+ * shorter than the row that is read or written.
+ */
+KELI_API KelStatus keliErode_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliErode_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliErode_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliErode_8u_C4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliErode_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliErode_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliErode_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliErode_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliDilate_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliDilate_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliDilate_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliDilate_8u_C4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliDilate_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliDilate_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliDilate_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+KELI_API KelStatus keliDilate_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel8u* pMask, KeliSize maskSize, KeliPoint anchor);
+
 /* ==== Remap ==== */
 
 /**
