@@ -34,7 +34,7 @@ struct Place {
   WholeVec whole;
   RealVec fraction;
 
-  HWY_INLINE explicit Place(RealVec at) : whole(hn::ConvertTo(Wholes(), at)) {
+  HWY_INLINE explicit Place(RealVec at) : whole(truncateToInt(Wholes(), at)) {
     fraction = at - hn::ConvertTo(Reals(), whole);
   }
 };

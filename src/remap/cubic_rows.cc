@@ -33,7 +33,7 @@ struct CubicWeights {
 template <class D>
 HWY_INLINE auto nearestBytes(D d, hn::Vec<D> v) {
   const auto kept = hn::Min(hn::Max(v, hn::Zero(d)), hn::Set(d, 255.0f));
-  return hn::ConvertTo(hn::RebindToSigned<D>(), hn::Round(kept));
+  return roundToInt(hn::RebindToSigned<D>(), kept);
 }
 
 // Four bytes of a row are one word.

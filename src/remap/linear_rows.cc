@@ -19,7 +19,7 @@ HWY_INLINE WholeVec weightPairs(RealVec fraction) {
   const Wholes d;
   const Reals dr;
   const RealVec scaled = fraction * hn::Set(dr, static_cast<float>(remap::kWeightOne));
-  const WholeVec w = hn::ConvertTo(d, hn::Round(scaled));
+  const WholeVec w = roundToInt(d, scaled);
   return hn::ShiftLeft<16>(w) - w + hn::Set(d, remap::kWeightOne);
 }
 

@@ -21,7 +21,7 @@ struct TakeNearest {
   static HWY_INLINE void block(const remap::Remapping& r, RealVec fx, RealVec fy, T* dst) {
     constexpr int kPixel = kStored * sizeof(T);
     const Wholes d;
-    const WholeVec x = hn::ConvertTo(d, hn::Round(fx)), y = hn::ConvertTo(d, hn::Round(fy));
+    const WholeVec x = roundToInt(d, fx), y = roundToInt(d, fy);
     const WholeVec offsets = offsetsOf(r, x, y, kPixel);
     const auto* words = reinterpret_cast<const std::int32_t*>(r.src);
     if constexpr (kPixel == 1) {
