@@ -1,4 +1,5 @@
-// Rows of Remap: a smooth map and a random one, in each interpolation.
+// Rows of Remap: a smooth map and a random one, in each interpolation. The images are smooth for
+// results to be comparable with those of libraries that round coordinates.
 #include "tables.h"
 
 namespace keli::bench {
@@ -9,6 +10,7 @@ std::vector<Row> remapRows() {
   for (const int mode : {kelInterpolationNearest, kelInterpolationLinear, kelInterpolationCubic}) {
     Choices choices;
     choices.interpolation = mode;
+    choices.content = Content::kPhotograph;
     for (const Map map : {Map::kRotation, Map::kRandom}) {
       choices.map = map;
       rows.push_back({"keliRemap_8u_C1R", Limit::kMove, choices});

@@ -29,6 +29,10 @@ CHARTED = [
     "keliSum_8u_C1R", "keliMean_8u_C3R", "keliMinMax_8u_C1R", "keliMaxIndx_16s_C1R",
     "keliCountInRange_8u_C1R", "keliNorm_L2_32f_C1R", "keliNormDiff_L1_16s_C1R",
     "keliNormRel_L2_8u_C1R",
+    "keliConvert_8u16s_C1R", "keliConvert_32f8u_C1R", "keliScale_16u8u_C1R",
+    "keliCopyReplicateBorder_8u_C3R", "keliMirror_8u_C3R:vertical", "keliMirror_8u_C1R:both",
+    "keliRemap_8u_C1R:linear:photograph", "keliRemap_8u_C1R:cubic:photograph", "keliFilterBox_8u_C1R:5x5",
+    "keliFilterBox_32f_C1R:5x5", "keliFilterMax_8u_C1R:3x3", "keliFilterMax_8u_C1R:31x31",
 ]
 
 HEAD = """\
@@ -55,8 +59,10 @@ fewer bytes than its images hold.
 above 1 the function is faster. Before it is timed, every peer's result is compared with the
 function's. "alpha set" and "alpha copied" mark peers that also write the fourth sample, which the
 function leaves alone. A peer of a reduction answers numbers, which are compared; peers of norms take
-all channels as one. What follows a function's name is its scale factor, its relation, or the number
-of a histogram's levels and what its image holds where that is not noise.
+all channels as one. OpenCV's remap rounds coordinates to 1/32 of a pixel; its result may differ by what
+a smooth image changes in that distance. What follows a function's name is its scale factor, its relation, the size of its mask,
+its axis, its interpolation (and "random" for a map that is not a rotation), or the number of a
+histogram's levels and what its image holds where that is not noise.
 
 In every row all contestants take turns over many rounds, each measured over at least 20
 microseconds, and the best time of each counts. Images come from the library's allocators; masks

@@ -10,6 +10,9 @@ namespace {
 
 constexpr double kPi = 3.14159265358979323846;
 
+// To 1/4096 of a pixel: what rounding errors leave of a coordinate on the edge is on the edge.
+float settled(double at) { return static_cast<float>(std::nearbyint(at * 4096) / 4096); }
+
 }  // namespace
 
 Maps makeMaps(const std::string& text, KeliSize src, KeliSize dst) {
@@ -29,8 +32,8 @@ Maps makeMaps(const std::string& text, KeliSize src, KeliSize dst) {
       double along = u * std::cos(angle) - v * std::sin(angle);
       double down = u * std::sin(angle) + v * std::cos(angle);
       if (!rotates) down += n[0] * std::sin(2 * kPi * u / n[1]);
-      maps.x.push_back(static_cast<float>(along + 0.5 * (src.width - 1)));
-      maps.y.push_back(static_cast<float>(down + 0.5 * (src.height - 1)));
+      maps.x.push_back(settled(along + 0.5 * (src.width - 1)));
+      maps.y.push_back(settled(down + 0.5 * (src.height - 1)));
     }
   }
   return maps;

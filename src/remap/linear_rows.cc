@@ -154,12 +154,10 @@ HWY_INLINE void storePixels(DW, hn::Vec<DW> samples, Kel8u* dst, bool last) {
     alignas(16) static constexpr std::uint8_t kFirstThree[16] = {
         0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 128, 128, 128, 128};
     const auto packed = hn::TableLookupBytesOr0(bytes, hn::LoadU(d8, kFirstThree));
-    if (!last) {
-      hn::StoreU(packed, d8, dst);
+    if (last) {
+      storeFirst(d8, packed, dst, 3 * kPixelsOf<DW>);
     } else {
-      HWY_ALIGN Kel8u exact[hn::MaxLanes(DW())];
-      hn::Store(packed, d8, exact);
-      std::memcpy(dst, exact, 3 * kPixelsOf<DW>);
+      hn::StoreU(packed, d8, dst);
     }
   }
 }

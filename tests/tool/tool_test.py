@@ -126,6 +126,19 @@ RESULTS = [
      [[10, 99, 30, 40, 99, 60, 255, 99, 0], RGB[1]]),
     ("keliSwapChannels_8u_C3IR rgb.png --dstOrder 2,1,0", 3, SWAPPED),
     ("keliSwapChannels_32s_C3R rgb.png --dstOrder 2,1,0", 3, SWAPPED),
+    ("keliMirror_8u_C1R gray.png --flip horizontal", 1, [[4, 5, 6], [1, 2, 3]]),
+    ("keliMirror_8u_C1IR gray.png --flip both", 1, [[6, 5, 4], [3, 2, 1]]),
+    ("keliRemap_8u_C1R gray.png --map rotate:180 --interpolation nearest", 1,
+     [[6, 5, 4], [3, 2, 1]]),
+    ("keliScale_32f8u_C1R gray.png --vMin 1 --vMax 6", 1, [[0, 51, 102], [153, 204, 255]]),
+    ("keliCopyConstBorder_8u_C1R gray.png --roi 1,0,2,2 --size 4x3 --topBorderHeight 1 "
+     "--leftBorderWidth 1 --value 9", 1, [[9, 9, 9, 9], [9, 2, 3, 9], [9, 5, 6, 9]]),
+    # Neighbourhoods at the edges are of repeated pixels.
+    ("keliFilterMax_8u_C1R gray.png --maskSize 3x1 --anchor 0,0", 1, [[3, 3, 3], [6, 6, 6]]),
+    ("keliFilterMin_16s_C1R gray.png", 1, [[1, 1, 2], [1, 1, 2]]),
+    ("keliErode3x3_8u_C1IR gray.png", 1, [[1, 1, 2], [1, 1, 2]]),
+    ("keliErode3x3_8u_C1IR gray.png --roi 1,0,1,2", 1, [[1, 1, 3], [4, 1, 6]]),
+    ("keliDilate_8u_C1R gray.png --pMask cross", 1, [[4, 5, 6], [5, 6, 6]]),
 ]
 # (command, what is printed after the status)
 PRINTED = [
@@ -201,6 +214,13 @@ MISTAKES = [
 ]] + [(f"run keliSet_8u_C1R --value 1 --size {s} -o o.png", f"--size: {m}") for s, m in [
     ("2", "needs 2"), ("0x5", "0x5 is empty"), ("axb", "'a' is not"), ("-1x5", "-1x5"),
     ("2000000000x2000000000", "2000000000x2000000000 is too large"),
+]] + [(f"run keli{call} -o o.png", m) for call, m in [
+    ("Dilate_8u_C1R gray.png --pMask star", "'star' is none of ellipse, cross, rectangle"),
+    ("FilterMax_8u_C1R gray.png --maskSize 5000x1", "5000x1 is more than 4096"),
+    ("Mirror_8u_C1R gray.png --flip diagonal", "'diagonal' is none of horizontal, vertical, both"),
+    ("Remap_8u_C1R gray.png --map wave:3", "'wave:3' is neither"),
+    ("Remap_8u_C1R gray.png", "needs option --map"),
+    ("CopyWrapBorder_32s_C1IR gray.png", "cannot supply argument pSrcDst"),
 ]] + [(f"run keliCopy_8u_C1R gray.png -o o.png --roi {r}", m) for r, m in [
     ("0,0,0,1", "--roi: 0,0,0,1 is empty"), ("0,0,1,-1", "empty"), ("1,0,3,1", "leaves gray.png"),
     ("0,-1,1,1", "leaves gray.png"), ("2147483647,0,2,1", "leaves"), ("0,0,1", "needs 4"),
