@@ -45,6 +45,28 @@ HWY_INLINE WholeVec offsetsOf(const remap::Remapping& r, WholeVec x, WholeVec y,
   return y * hn::Set(d, static_cast<std::int32_t>(r.srcStep)) + x * hn::Set(d, pixelBytes);
 }
 
+// The bytes of a row from columns on, in the lowest bytes of words: of the last columns, words that
+// begin before them.
+class ByteWords {
+ public:
+  HWY_INLINE ByteWords(const remap::Remapping& r, WholeVec x, WholeVec y) {
+    const Wholes d;
+    const WholeVec first = hn::Min(x, hn::Set(d, r.lastWord));
+    offsets_ = offsetsOf(r, first, y, 1);
+    beyond_ = hn::BitCast(hn::RebindToUnsigned<Wholes>(), hn::ShiftLeft<3>(x - first));
+  }
+  // row: the first byte of the source's row at distance 0, or of another row.
+  HWY_INLINE WholeVec at(const std::uint8_t* row) const {
+    const Wholes d;
+    const auto words = hn::GatherOffset(d, reinterpret_cast<const std::int32_t*>(row), offsets_);
+    return hn::BitCast(d, hn::BitCast(hn::RebindToUnsigned<Wholes>(), words) >> beyond_);
+  }
+
+ private:
+  WholeVec offsets_;
+  hn::Vec<hn::RebindToUnsigned<Wholes>> beyond_;
+};
+
 // Pixels of a block that vectors have done elsewhere, where bits tell so, and the others.
 template <class Op, class T>
 void finishBlock(const remap::Remapping& r, const std::uint8_t* bits, const float* xMap,

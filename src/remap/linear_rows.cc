@@ -64,11 +64,9 @@ struct BlendBytes {
     alignas(16) static constexpr std::uint8_t kFirstTwo[16] = {0, 128, 1, 128, 4,  128, 5,  128,
                                                                8, 128, 9, 128, 12, 128, 13, 128};
     const Place x(fx), y(fy);
-    const WholeVec offsets = offsetsOf(r, x.whole, y.whole, 1);
-    const auto* above = reinterpret_cast<const std::int32_t*>(r.src);
-    const auto* below = reinterpret_cast<const std::int32_t*>(r.src + r.srcStep);
-    const WholeVec top = bytePairs(d, hn::GatherOffset(d, above, offsets), kFirstTwo);
-    const WholeVec bottom = bytePairs(d, hn::GatherOffset(d, below, offsets), kFirstTwo);
+    const ByteWords words(r, x.whole, y.whole);
+    const WholeVec top = bytePairs(d, words.at(r.src), kFirstTwo);
+    const WholeVec bottom = bytePairs(d, words.at(r.src + r.srcStep), kFirstTwo);
     const WholeVec result =
         blended(d, top, bottom, weightPairs(x.fraction), weightPairs(y.fraction));
     hn::StoreU(hn::DemoteTo(d8, result), d8, dst);

@@ -26,7 +26,7 @@ struct TakeNearest {
     const auto* words = reinterpret_cast<const std::int32_t*>(r.src);
     if constexpr (kPixel == 1) {
       const hn::Rebind<Kel8u, Wholes> d8;
-      const WholeVec bytes = hn::And(hn::GatherOffset(d, words, offsets), hn::Set(d, 255));
+      const WholeVec bytes = hn::And(ByteWords(r, x, y).at(r.src), hn::Set(d, 255));
       hn::StoreU(hn::DemoteTo(d8, bytes), d8, dst);
     } else if constexpr (kPixel == 4 && kUsed == kStored) {
       hn::StoreU(hn::GatherOffset(d, words, offsets), d, reinterpret_cast<std::int32_t*>(dst));

@@ -35,10 +35,12 @@ void setFree(Remapping& r, KeliSize srcSize) {
   constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
   constexpr std::int64_t kAhead = readAhead<T, kStored, Mode::kAfter>();
   const std::int64_t row = srcSize.width * kPixel;
-  const std::int64_t beyondX = row < kAhead ? -1 : (row - kAhead) / kPixel;
+  const std::int64_t least = kPixel == 1 ? 4 : kAhead;  // bytes are read four at a time
+  const std::int64_t beyondX = row < least ? -1 : (row - kAhead) / kPixel;
   const std::int64_t beyondY = row > kMost ? -1 : (kMost - row) / r.srcStep - Mode::kAfter;
   const std::int64_t lastX = std::min<std::int64_t>(r.xMax - Mode::kAfter, beyondX);
   const std::int64_t lastY = std::min<std::int64_t>(r.yMax - Mode::kAfter, beyondY);
+  r.lastWord = srcSize.width - 4;
   // The nearest pixel may be the next one.
   const auto span = Mode::kAfter == 0 ? spanOf : spanBelow;
   r.xFree = span(r.xMin + Mode::kBefore, lastX);

@@ -37,6 +37,7 @@ struct Remapping {
   // Coordinates whose whole neighbourhood lies inside, with what vectors read beyond it, and at
   // offsets of 32 bits.
   Span xFree, yFree;
+  int lastWord;  // the last column of bytes that four can be read from
 
   bool holds(float fx, float fy) const {
     return fx >= x.low && fx <= x.high && fy >= y.low && fy <= y.high;
@@ -179,9 +180,8 @@ struct Cubic {
 template <class T, int kStored, int kAfter>
 constexpr int readAhead() {
   constexpr int kPixel = kStored * static_cast<int>(sizeof(T));
-  // Words of four bytes for one channel; four samples of any pixel.
-  if (kAfter == 0) return kPixel == 1 ? 4 : kPixel;
-  if (kStored == 1) return sizeof(T) == 1 ? (kAfter == 1 ? 4 : 3) : (kAfter + 1) * 4;
+  if (kAfter == 0 || kStored == 1) return (kAfter + 1) * kPixel;
+  // Four samples of any pixel.
   if (sizeof(T) == 1 && kAfter == 1) return 8;
   return kAfter * kPixel + 4 * static_cast<int>(sizeof(T));
 }
