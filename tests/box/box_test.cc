@@ -8,18 +8,9 @@
 #include <vector>
 
 #include "box/quotient.h"
+#include "support/no_memory.h"
 #include "support/samples.h"
 #include "support/targets.h"
-
-namespace {
-bool gNoMemory = false;
-}
-
-// The linker gives these names to malloc where the library asks for memory, and to the heap's own.
-extern "C" void* __real_malloc(std::size_t count);
-extern "C" void* __wrap_malloc(std::size_t count) {
-  return gNoMemory ? nullptr : __real_malloc(count);
-}
 
 namespace keli::test {
 namespace {
@@ -395,9 +386,8 @@ TYPED_TEST(Box, NothingIsWrittenWithoutMemory) {
       Picture<TypeParam> src({65, 64}, {mask, {0, 0}}, m.stored), dst = src;
       std::fill(src.samples.begin(), src.samples.end(), TypeParam{9});
       const Picture<TypeParam> unchanged = src, untouched = dst;
-      gNoMemory = true;
-      const KelStatus apart = run(m, src, dst), within = runInPlace(m, src);
-      gNoMemory = false;
+      const KelStatus apart = withoutMemory([&] { return run(m, src, dst); });
+      const KelStatus within = withoutMemory([&] { return runInPlace(m, src); });
       EXPECT_EQ(apart, kelStatusNoMemory) << m.name;
       EXPECT_EQ(within, kelStatusNoMemory) << m.name;
       EXPECT_TRUE(same(src, unchanged) && same(dst, untouched)) << m.name;

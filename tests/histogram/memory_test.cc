@@ -6,16 +6,7 @@
 #include <vector>
 
 #include "keli.h"
-
-namespace {
-bool gNoMemory = false;
-}
-
-// The linker gives these names to malloc where the library asks for memory, and to the heap's own.
-extern "C" void* __real_malloc(std::size_t count);
-extern "C" void* __wrap_malloc(std::size_t count) {
-  return gNoMemory ? nullptr : __real_malloc(count);
-}
+#include "support/no_memory.h"
 
 namespace keli::test {
 namespace {
@@ -36,9 +27,7 @@ struct Outputs {
 template <class Call>
 void expectNoMemory(const Call& call) {
   Outputs o;
-  gNoMemory = true;
-  const KelStatus status = call(o);
-  gNoMemory = false;
+  const KelStatus status = withoutMemory([&] { return call(o); });
   EXPECT_EQ(status, kelStatusNoMemory);
   EXPECT_TRUE(o.untouched());
   EXPECT_EQ(call(o), kelStatusOk);
@@ -77,12 +66,12 @@ TEST(HistogramMemory, OthersCountWithout) {
     bytes.push_back(static_cast<Kel8u>(i / 2048));
   const int byteLevels[] = {0, 100, 101, 128, 200};
   int counts[kBins], byteCounts[kBins];
-  gNoMemory = true;
-  const KelStatus status =
-      keliHistogramRange_32f_C1R(image.data(), 4 * kWidth, {kWidth, 1}, counts, levels, 5);
-  const KelStatus byteStatus =
-      keliHistogramRange_8u_C1R(bytes.data(), 512, kLarge, byteCounts, byteLevels, 5);
-  gNoMemory = false;
+  const KelStatus status = withoutMemory([&] {
+    return keliHistogramRange_32f_C1R(image.data(), 4 * kWidth, {kWidth, 1}, counts, levels, 5);
+  });
+  const KelStatus byteStatus = withoutMemory([&] {
+    return keliHistogramRange_8u_C1R(bytes.data(), 512, kLarge, byteCounts, byteLevels, 5);
+  });
   EXPECT_EQ(status, kelStatusOk);
   EXPECT_EQ(byteStatus, kelStatusOk);
   const int expected[kBins] = {10, 40, 1, kWidth - 51};

@@ -4,16 +4,7 @@
 #include <cstring>
 
 #include "keli.h"
-
-namespace {
-bool gNoMemory = false;
-}
-
-// The linker gives these names to malloc where the library asks for memory, and to the heap's own.
-extern "C" void* __real_malloc(std::size_t count);
-extern "C" void* __wrap_malloc(std::size_t count) {
-  return gNoMemory ? nullptr : __real_malloc(count);
-}
+#include "support/no_memory.h"
 
 namespace keli::test {
 namespace {
@@ -29,10 +20,8 @@ void checkWithoutMemory(Function<T> function, InPlace<T> inPlace) {
   T dst[8];
   std::memcpy(dst, src, sizeof(dst));
   const int step = sizeof(src) / 2;
-  gNoMemory = true;
-  const KelStatus status = function(src, step, dst, step, {1, 2});
-  const KelStatus statusInPlace = inPlace(dst, step, {1, 2});
-  gNoMemory = false;
+  const KelStatus status = withoutMemory([&] { return function(src, step, dst, step, {1, 2}); });
+  const KelStatus statusInPlace = withoutMemory([&] { return inPlace(dst, step, {1, 2}); });
   EXPECT_EQ(status, kelStatusNoMemory);
   EXPECT_EQ(statusInPlace, kelStatusNoMemory);
   EXPECT_EQ(std::memcmp(dst, src, sizeof(dst)), 0);

@@ -5,16 +5,7 @@
 #include <vector>
 
 #include "keli.h"
-
-namespace {
-bool gNoMemory = false;
-}
-
-// The linker gives these names to malloc where the library asks for memory, and to the heap's own.
-extern "C" void* __real_malloc(std::size_t count);
-extern "C" void* __wrap_malloc(std::size_t count) {
-  return gNoMemory ? nullptr : __real_malloc(count);
-}
+#include "support/no_memory.h"
 
 namespace keli::test {
 namespace {
@@ -35,9 +26,7 @@ template <class Call>
 void expectStatus(KelStatus without, const Call& call) {
   Images images;
   const Images before = images;
-  gNoMemory = true;
-  const KelStatus status = call(images);
-  gNoMemory = false;
+  const KelStatus status = withoutMemory([&] { return call(images); });
   EXPECT_EQ(status, without);
   if (status == kelStatusNoMemory) {
     EXPECT_EQ(images.src, before.src);
