@@ -3276,10 +3276,10 @@ KELI_API KelStatus keliHistogramEven_16s_AC4R(const Kel16s* pSrc, int srcStep, K
  * down, so uniform 255 gives 254; these masks are filtered on one thread. Source pixels around
  * the region are read where masks meet them: anchor.x columns to the left, maskSize.width - 1 -
  * anchor.x to the right, anchor.y rows above and maskSize.height - 1 - anchor.y below; there is
- * no other care for borders. The cost of a pixel hardly depends on the mask. AC4 leaves the
- * fourth channel of the destination alone. Regions overlap neither with each other nor the
- * pixels that are read. The call returns kelStatusNoMemory, and has written nothing, if it
- * cannot get memory for a few rows.
+ * no other care for borders. The cost of a pixel hardly depends on the mask. Results do not
+ * depend on the caller's rounding mode. AC4 leaves the fourth channel of the destination alone.
+ * Regions overlap neither with each other nor the pixels that are read. The call returns
+ * kelStatusNoMemory, and has written nothing, if it cannot get memory for a few rows.
  *
  * On large regions the rows are shared out among threads, with the same results:
  * keliFilterBox_8u_C1R, keliFilterBox_8u_C3R, keliFilterBox_8u_C4R, keliFilterBox_8u_AC4R.
@@ -3304,9 +3304,10 @@ KELI_API KelStatus keliFilterBox_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* 
  * 65536 pixels they may wrap. Source pixels around the region are read where masks meet them:
  * anchor.x columns to the left, maskSize.width - 1 - anchor.x to the right, anchor.y rows above
  * and maskSize.height - 1 - anchor.y below; there is no other care for borders. The cost of a
- * pixel hardly depends on the mask. AC4 leaves the fourth channel of the destination alone.
- * Regions overlap neither with each other nor the pixels that are read. The call returns
- * kelStatusNoMemory, and has written nothing, if it cannot get memory for a few rows.
+ * pixel hardly depends on the mask. Results do not depend on the caller's rounding mode. AC4
+ * leaves the fourth channel of the destination alone. Regions overlap neither with each other
+ * nor the pixels that are read. The call returns kelStatusNoMemory, and has written nothing, if
+ * it cannot get memory for a few rows.
  *
  * On large regions the rows are shared out among threads, with the same results:
  * keliFilterBox_16s_C1R, keliFilterBox_16s_C3R, keliFilterBox_16s_C4R, keliFilterBox_16s_AC4R.

@@ -13,6 +13,7 @@
 #include "box/box_rows.h"
 #include "box/quotient.h"
 #include "core/memory.h"
+#include "core/rounding_mode.h"
 #include "core/walk.h"
 #include "core/window.h"
 #include "data/copy_rows.h"
@@ -85,6 +86,7 @@ std::size_t stripSamples(const BoxRows& r) {
 template <class T, Layout kLayout>
 KelStatus filter(const T* src, int srcStep, T* dst, int dstStep, KeliSize size, KeliSize mask,
                  KeliPoint anchor) {
+  const core::RoundToNearest nearest;
   const BoxRows all = boxRows<T, kLayout>(src, srcStep, dst, dstStep, size, mask, anchor, false);
   BoxRows strip = all;
   strip.b.n = stripSamples<T>(all);
@@ -123,6 +125,7 @@ void copyRow(const T* from, T* to, std::size_t samples) {
 
 template <class T, Layout kLayout>
 KelStatus filterInPlace(T* srcDst, int step, KeliSize size, KeliSize mask, KeliPoint anchor) {
+  const core::RoundToNearest nearest;
   BoxRows r = boxRows<T, kLayout>(srcDst, step, srcDst, step, size, mask, anchor, true);
   const std::uint64_t rowBytes = (std::uint64_t{r.b.n} * sizeof(T) + 63) / 64 * 64;
   // A row is not needed by masks from the one on that is anchor.y + 1 rows below it.

@@ -2,7 +2,7 @@
 //
 // For bytes (sum * M) >> k, where M has 12 bits and is above 2^k / pixels, so that sums that are
 // multiples of the number of pixels are divided exactly. It follows from the reciprocal in single
-// precision.
+// precision. Calls stay calls: their operations must not move to before the rounding mode is set.
 #pragma once
 
 #include <cmath>
@@ -11,7 +11,7 @@
 
 namespace keli::box {
 
-inline float reciprocalOf(KeliSize mask) {
+[[gnu::noinline]] inline float reciprocalOf(KeliSize mask) {
   const std::int64_t pixels = std::int64_t{mask.width} * mask.height;
   return 1.0f / static_cast<float>(pixels);
 }
@@ -24,7 +24,7 @@ inline std::uint32_t nearestInteger(float v) {
   return integer + (rest > 0.5f || (rest == 0.5f && integer % 2 != 0) ? 1 : 0);
 }
 
-inline ByteQuotient byteQuotient(float reciprocal) {
+[[gnu::noinline]] inline ByteQuotient byteQuotient(float reciprocal) {
   const float scaled = reciprocal * 4294967296.0f - 0.49998998641967773f;
   std::uint32_t v = scaled > 0 ? nearestInteger(scaled) : 0;
   int shifts = 0;

@@ -12,6 +12,7 @@
 #include <atomic>
 
 #include "core/memory.h"
+#include "core/rounding_mode.h"
 
 namespace keli::core {
 namespace {
@@ -60,11 +61,13 @@ KelStatus runTeam(Split split, int rows, int team, std::size_t scratchPerThread,
   if (slice != 0 && slices == nullptr) return kelStatusNoMemory;
 
   if (team == 1) {
+    const RoundToNearest nearest;
     task.run(task.context, {0, rows, slices});
     return kelStatusOk;
   }
 #pragma omp parallel num_threads(team)
   {
+    const RoundToNearest nearest;
     // The runtime may give fewer threads than asked for, never more.
     const int thread = omp_get_thread_num();
     RowBlock block = blockOf(split, rows, thread, omp_get_num_threads());

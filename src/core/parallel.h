@@ -2,7 +2,8 @@
 // parallel.cc.
 //
 // Every split covers rows 0 .. rows - 1 once, each thread with one contiguous block of whole rows,
-// so no result may depend on it beyond what the function promises.
+// so no result may depend on it beyond what the function promises. Threads round to nearest while
+// they run it, whatever the caller does: the runtime's own would not share the caller's mode.
 #pragma once
 
 #include <cstddef>

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <omp.h>
 
+#include <cfenv>
 #include <cmath>
 #include <cstring>
 #include <numeric>
@@ -361,7 +362,7 @@ TEST(BoxValues, SpecialFloatsStayWhereTheyAre) {
   }
 }
 
-TYPED_TEST(Box, SameOnAnyNumberOfThreads) {
+TYPED_TEST(Box, SameOnAnyNumberOfThreadsInEveryRoundingMode) {
   const int threads = omp_get_max_threads();
   Random random(runSeed());
   for (const KeliSize mask : {KeliSize{5, 5}, {12, 31}, {3, 150}}) {
@@ -370,11 +371,19 @@ TYPED_TEST(Box, SameOnAnyNumberOfThreads) {
     fill(src, random);
     omp_set_num_threads(1);
     ASSERT_EQ(run(m, src, one), kelStatusOk);
-    for (const int team : {2, 7}) {
+    for (const auto& [team, mode] :
+         {std::pair(2, FE_TONEAREST), {7, FE_TONEAREST}, {1, FE_UPWARD}, {2, FE_DOWNWARD}}) {
       omp_set_num_threads(team);
-      Picture<TypeParam> dst(src.roi, src.mask, m.stored);
-      ASSERT_EQ(run(m, src, dst), kelStatusOk);
-      EXPECT_TRUE(same(dst, one)) << m.name << " on " << team << " threads";
+      Picture<TypeParam> dst(src.roi, src.mask, m.stored), within = src, inPlace = src;
+      runInPlace(m, inPlace);
+      std::fesetround(mode);
+      const KelStatus status = run(m, src, dst);
+      runInPlace(m, within);
+      EXPECT_EQ(std::fegetround(), mode);
+      std::fesetround(FE_TONEAREST);
+      ASSERT_EQ(status, kelStatusOk);
+      EXPECT_TRUE(same(dst, one)) << m.name << " on " << team << " threads, mode " << mode;
+      EXPECT_TRUE(same(within, inPlace)) << m.name << " in place, mode " << mode;
     }
   }
   omp_set_num_threads(threads);
