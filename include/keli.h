@@ -3276,8 +3276,8 @@ KELI_API KelStatus keliHistogramEven_16s_AC4R(const Kel16s* pSrc, int srcStep, K
  * down, so uniform 255 gives 254; these masks are filtered on one thread. Source pixels around
  * the region are read where masks meet them: anchor.x columns to the left, maskSize.width - 1 -
  * anchor.x to the right, anchor.y rows above and maskSize.height - 1 - anchor.y below; there is
- * no other care for borders. The cost of a pixel hardly depends on the mask. Results do not
- * depend on the caller's rounding mode. AC4 leaves the fourth channel of the destination alone.
+ * no other care for borders. Results do not depend on the caller's rounding mode. The cost of a
+ * pixel hardly depends on the mask. AC4 leaves the fourth channel of the destination alone.
  * Regions overlap neither with each other nor the pixels that are read. The call returns
  * kelStatusNoMemory, and has written nothing, if it cannot get memory for a few rows.
  *
@@ -3303,8 +3303,8 @@ KELI_API KelStatus keliFilterBox_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* 
  * the nearest integer, ties to even, and saturated. Sums have 32 bits: of masks of more than
  * 65536 pixels they may wrap. Source pixels around the region are read where masks meet them:
  * anchor.x columns to the left, maskSize.width - 1 - anchor.x to the right, anchor.y rows above
- * and maskSize.height - 1 - anchor.y below; there is no other care for borders. The cost of a
- * pixel hardly depends on the mask. Results do not depend on the caller's rounding mode. AC4
+ * and maskSize.height - 1 - anchor.y below; there is no other care for borders. Results do not
+ * depend on the caller's rounding mode. The cost of a pixel hardly depends on the mask. AC4
  * leaves the fourth channel of the destination alone. Regions overlap neither with each other
  * nor the pixels that are read. The call returns kelStatusNoMemory, and has written nothing, if
  * it cannot get memory for a few rows.
@@ -3340,10 +3340,10 @@ KELI_API KelStatus keliFilterBox_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16
  * A result that is not a number is 0xFFC00000. Source pixels around the region are read where
  * masks meet them: anchor.x columns to the left, maskSize.width - 1 - anchor.x to the right,
  * anchor.y rows above and maskSize.height - 1 - anchor.y below; there is no other care for
- * borders. The cost of a pixel hardly depends on the mask. AC4 leaves the fourth channel of the
- * destination alone. Regions overlap neither with each other nor the pixels that are read. The
- * call returns kelStatusNoMemory, and has written nothing, if it cannot get memory for a few
- * rows.
+ * borders. Results do not depend on the caller's rounding mode. The cost of a pixel hardly
+ * depends on the mask. AC4 leaves the fourth channel of the destination alone. Regions overlap
+ * neither with each other nor the pixels that are read. The call returns kelStatusNoMemory, and
+ * has written nothing, if it cannot get memory for a few rows.
  *
  * On large regions the rows are shared out among threads, with the same results:
  * keliFilterBox_32f_C1R, keliFilterBox_32f_C3R, keliFilterBox_32f_C4R, keliFilterBox_32f_AC4R.
@@ -3371,11 +3371,12 @@ KELI_API KelStatus keliFilterBox_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32
  * wrap. C1 and 3 x 3 pixels have fixed factors: (S * 29128) >> 18. Source pixels around the
  * region are read where masks meet them: anchor.x columns to the left, maskSize.width - 1 -
  * anchor.x to the right, anchor.y rows above and maskSize.height - 1 - anchor.y below; there is
- * no other care for borders. The cost of a pixel hardly depends on the mask. AC4 leaves the
- * fourth channel of the destination alone. In place the results are those of a copy of the
- * image (of C4 with 3 x 3 or 5 x 5 pixels with factors M and k, not the fixed ones); of the
- * pixels around the region none is written. The call returns kelStatusNoMemory, and has written
- * nothing, if it cannot get memory for a few rows.
+ * no other care for borders. Results do not depend on the caller's rounding mode. The cost of a
+ * pixel hardly depends on the mask. AC4 leaves the fourth channel of the destination alone. In
+ * place the results are those of a copy of the image (of C4 with 3 x 3 or 5 x 5 pixels with
+ * factors M and k, not the fixed ones); of the pixels around the region none is written. The
+ * call returns kelStatusNoMemory, and has written nothing, if it cannot get memory for a few
+ * rows.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
  * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadMaskSize if
@@ -3396,11 +3397,11 @@ KELI_API KelStatus keliFilterBox_8u_AC4IR(Kel8u* pSrcDst, int srcDstStep, KeliSi
  * the nearest integer, ties to even, and saturated. Sums have 32 bits: of masks of more than
  * 65536 pixels they may wrap. Source pixels around the region are read where masks meet them:
  * anchor.x columns to the left, maskSize.width - 1 - anchor.x to the right, anchor.y rows above
- * and maskSize.height - 1 - anchor.y below; there is no other care for borders. The cost of a
- * pixel hardly depends on the mask. AC4 leaves the fourth channel of the destination alone. In
- * place the results are those of a copy of the image; of the pixels around the region none is
- * written. The call returns kelStatusNoMemory, and has written nothing, if it cannot get memory
- * for a few rows.
+ * and maskSize.height - 1 - anchor.y below; there is no other care for borders. Results do not
+ * depend on the caller's rounding mode. The cost of a pixel hardly depends on the mask. AC4
+ * leaves the fourth channel of the destination alone. In place the results are those of a copy
+ * of the image; of the pixels around the region none is written. The call returns
+ * kelStatusNoMemory, and has written nothing, if it cannot get memory for a few rows.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
  * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadMaskSize if
@@ -3430,10 +3431,11 @@ KELI_API KelStatus keliFilterBox_16s_AC4IR(Kel16s* pSrcDst, int srcDstStep, Keli
  * A result that is not a number is 0xFFC00000. Source pixels around the region are read where
  * masks meet them: anchor.x columns to the left, maskSize.width - 1 - anchor.x to the right,
  * anchor.y rows above and maskSize.height - 1 - anchor.y below; there is no other care for
- * borders. The cost of a pixel hardly depends on the mask. AC4 leaves the fourth channel of the
- * destination alone. In place the results are those of a copy of the image; of the pixels
- * around the region none is written. The call returns kelStatusNoMemory, and has written
- * nothing, if it cannot get memory for a few rows.
+ * borders. Results do not depend on the caller's rounding mode. The cost of a pixel hardly
+ * depends on the mask. AC4 leaves the fourth channel of the destination alone. In place the
+ * results are those of a copy of the image; of the pixels around the region none is written.
+ * The call returns kelStatusNoMemory, and has written nothing, if it cannot get memory for a
+ * few rows.
  *
  * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
  * below 1; kelStatusBadSize if roiSize is below 1 in width or height; kelStatusBadMaskSize if
