@@ -275,7 +275,7 @@ def histogram_condition(array, text):
 def row_condition(function):
     """Rows that are shorter than what is read or written of them."""
     margin = {"3x3": "2", "mask": "maskSize.width - 1"}[function.reach]
-    size, out, step = names_of(function, "region"), [], None
+    size, out = names_of(function, "region"), []
     for image, step in zip(function.arguments, function.arguments[1:]):
         if image.role in IMAGES:
             read = image.role != "destination"

@@ -5,9 +5,8 @@
 // precision. Calls stay calls: their operations must not move to before the rounding mode is set.
 #pragma once
 
-#include <cmath>
-
 #include "box/box_rows.h"
+#include "core/nearest.h"
 
 namespace keli::box {
 
@@ -16,17 +15,9 @@ namespace keli::box {
   return 1.0f / static_cast<float>(pixels);
 }
 
-// To the nearest integer, ties to even, whatever the rounding mode. v: 0 or more.
-inline std::uint32_t nearestInteger(float v) {
-  const float whole = std::floor(v);
-  const std::uint32_t integer = static_cast<std::uint32_t>(whole);
-  const float rest = v - whole;
-  return integer + (rest > 0.5f || (rest == 0.5f && integer % 2 != 0) ? 1 : 0);
-}
-
 [[gnu::noinline]] inline ByteQuotient byteQuotient(float reciprocal) {
   const float scaled = reciprocal * 4294967296.0f - 0.49998998641967773f;
-  std::uint32_t v = scaled > 0 ? nearestInteger(scaled) : 0;
+  std::uint32_t v = scaled > 0 ? static_cast<std::uint32_t>(nearestInteger(scaled)) : 0;
   int shifts = 0;
   for (; v >> 31 == 0 && shifts < 24; ++shifts) v <<= 1;
   return {(v >> 20) + 1, shifts + 12};

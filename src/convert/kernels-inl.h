@@ -11,6 +11,7 @@
 #include "convert/rows.h"
 #include "core/map-inl.h"
 #include "core/narrow-inl.h"
+#include "core/nearest.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
@@ -45,16 +46,6 @@ void ownConvert(const Band<1>& b, Terms... terms) {
 template <class Op, class TS, class TD, class... Terms>
 constexpr convert::Kernels<Terms...> kKernels = {
     ownConvert<Op, TS, TD, KeepNone, Terms...>, ownConvert<Op, TS, TD, KeepOthers<4, 3>, Terms...>};
-
-// The nearest integer, the even one of two; v is less than 2^23 in size. Does not depend on the
-// rounding mode: every step is exact.
-HWY_INLINE Kel32s nearestInteger(Kel32f v) {
-  const Kel32s whole = static_cast<Kel32s>(v);
-  const Kel32f rest = v - static_cast<Kel32f>(whole);
-  const Kel32f size = rest < 0 ? -rest : rest;
-  if (size < 0.5f || (size == 0.5f && whole % 2 == 0)) return whole;
-  return rest < 0 ? whole - 1 : whole + 1;
-}
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();

@@ -71,7 +71,7 @@ struct LnOf16s : UnaryOp {
     flags.zero |= v == 0;
     flags.negative |= v < 0;
     if (v <= 1) return 0;
-    return saturate<Kel16s>(math::nearestInteger(math::logarithm(v) * static_cast<double>(factor)));
+    return saturate<Kel16s>(nearestInteger(math::logarithm(v) * static_cast<double>(factor)));
   }
 
  private:

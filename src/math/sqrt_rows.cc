@@ -55,7 +55,7 @@ struct Root : UnaryOp {
   }
   HWY_INLINE T scalar(std::size_t, T v) const {
     const double root = v > 0 ? std::sqrt(static_cast<double>(v)) * static_cast<double>(factor) : 0;
-    return saturate<T>(math::nearestInteger(root));
+    return saturate<T>(nearestInteger(root));
   }
 
  private:

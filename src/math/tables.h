@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "core/nearest.h"
 #include "core/scale.h"
 
 namespace keli::math {
@@ -15,14 +16,6 @@ namespace keli::math {
 constexpr double kLn2High = 0x1.62e42fep-1;  // of 28 bits: times an integer of 25 bits it is exact
 constexpr double kLn2Low = 0x1.f473de6af278fp-30;
 constexpr double kE = 0x1.5bf0a8b145769p+1;
-
-// The nearest integer, ties to even, of a number of less than 2^31 in size.
-constexpr int nearestInteger(double v) {
-  const int whole = static_cast<int>(v);
-  const int below = v < whole ? whole - 1 : whole;
-  const double rest = v - below;
-  return below + (rest > 0.5 || (rest == 0.5 && below % 2 != 0) ? 1 : 0);
-}
 
 constexpr double powerOfTwo(int exponent) {
   double power = 1;

@@ -10,6 +10,7 @@
 #include <cstring>
 #include <limits>
 
+#include "core/nearest.h"
 #include "core/types.h"
 
 namespace keli::remap {
@@ -49,13 +50,6 @@ struct Remapping {
   }
 };
 
-// Of v >= 0, below 2^31: the nearest integer, ties to even.
-inline int nearest(float v) {
-  const int whole = static_cast<int>(v);
-  const float fraction = v - static_cast<float>(whole);
-  return whole + (fraction > 0.5f || (fraction == 0.5f && (whole & 1) != 0) ? 1 : 0);
-}
-
 template <class T>
 inline T sampleOf(const T* p) {
   T v;
@@ -71,7 +65,7 @@ inline Kel32f settled(Kel32f v) { return v == v ? v : std::numeric_limits<Kel32f
 // of both rows fits 28 bits. It is rounded to nearest, ties up.
 constexpr int kWeightOne = 1 << 14;
 inline Kel8u linearOf(Kel8u p00, Kel8u p01, Kel8u p10, Kel8u p11, float fx, float fy) {
-  const int wx = nearest(fx * kWeightOne), wy = nearest(fy * kWeightOne);
+  const int wx = nearestInteger(fx * kWeightOne), wy = nearestInteger(fy * kWeightOne);
   const int top = (p00 * (kWeightOne - wx) + p01 * wx) >> 8;
   const int bottom = (p10 * (kWeightOne - wx) + p11 * wx) >> 8;
   return static_cast<Kel8u>((top * (kWeightOne - wy) + bottom * wy + (1 << 19)) >> 20);
@@ -102,7 +96,7 @@ inline void settle(float v, Kel32f* dst) {
   std::memcpy(dst, &result, sizeof(result));
 }
 inline void settle(float v, Kel8u* dst) {
-  *dst = static_cast<Kel8u>(v <= 0 ? 0 : v >= 255 ? 255 : nearest(v));
+  *dst = static_cast<Kel8u>(v <= 0 ? 0 : v >= 255 ? 255 : nearestInteger(v));
 }
 
 // The modes. pixel() writes kSamples of the kStored samples of a destination pixel from coordinates
@@ -115,7 +109,8 @@ struct Nearest {
   static constexpr int kBefore = 0, kAfter = 0;
 
   static void pixel(const Remapping& r, float fx, float fy, T* dst) {
-    std::memcpy(dst, r.pixel<T>(nearest(fx), nearest(fy), kStored), kUsed * sizeof(T));
+    std::memcpy(dst, r.pixel<T>(nearestInteger(fx), nearestInteger(fy), kStored),
+                kUsed * sizeof(T));
   }
 };
 
