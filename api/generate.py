@@ -50,8 +50,9 @@ def check_text(status, text):
 
 
 def parallel_text(entry):
-    return ("On large regions the rows are shared out among threads, with the same results: "
-            + ", ".join(entry["parallel"]) + ".")
+    members = entry["parallel"]
+    return ("On large regions the rows are shared out among threads, with the same results"
+            + (": " + ", ".join(members) if members is not True else "") + ".")
 
 
 def status_header(statuses):

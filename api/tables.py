@@ -11,7 +11,7 @@ from dataclasses import dataclass, field
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-TABLES = ["core", "data", "convert", "border", "mirror", "arith", "division", "complex", "math", "logic", "threshold", "compare", "sums", "extremes", "norms", "histogram", "box", "morphology", "remap"]
+TABLES = ["core", "data", "convert", "border", "mirror", "arith", "division", "complex", "math", "logic", "threshold", "compare", "sums", "extremes", "norms", "histogram", "box", "morphology", "remap", "luma"]
 
 # Names whose role needs no mention in a table; every other argument is written name:role[:type].
 ROLE_OF_NAME = {
@@ -23,7 +23,7 @@ ROLE_OF_NAME = {
     "pyMap": "map", "topBorderHeight": "topBorder", "leftBorderWidth": "leftBorder",
     "flip": "axis", "interpolation": "interpolation", "roundMode": "roundMode",
     "vMin": "rangeMin", "vMax": "rangeMax", "srcBitOffset": "bitOffset",
-    "dstBitOffset": "bitOffset",
+    "dstBitOffset": "bitOffset", "noise": "noise", "dither": "dither", "levels": "grayLevels",
 }
 # inOutWithin: read where the source region lies within it and written as a whole.
 IMAGES = {"source", "destination", "inOut", "inOutWithin", "mask", "map", "sourceChannel",
@@ -94,7 +94,9 @@ class Function:
 
     @property
     def parallel(self):
-        return self.name in self.entry.get("parallel", [])
+        """An entry's key parallel lists such members, or is true where all are."""
+        members = self.entry.get("parallel", [])
+        return members is True or self.name in members
 
     @property
     def team(self):
@@ -167,7 +169,8 @@ def make_argument(word, types, layouts):
         "element": ("const Kel8u*", ""), "topBorder": ("int", ""), "leftBorder": ("int", ""),
         "axis": ("KelAxis", ""), "interpolation": ("KelInterpolation", ""),
         "roundMode": ("KelRoundMode", ""), "bitOffset": ("int", ""),
-        "rangeMin": ("Kel32f", ""), "rangeMax": ("Kel32f", ""),
+        "rangeMin": ("Kel32f", ""), "rangeMax": ("Kel32f", ""), "noise": ("int", ""),
+        "dither": ("int", ""), "grayLevels": ("int", ""),
     }
     if role not in fixed:
         raise SystemExit(f"argument '{word}': unknown role '{role}'")
@@ -339,6 +342,12 @@ CHECKS = {
               lambda f: f"badRemapSizes({all_of(f, 'sourceRegion', 'sourceRect', 'region')})"),
     "interpolation": ("kelStatusBadInterpolation", "interpolation is none of the modes",
                       lambda f: f"badInterpolation({names_of(f, 'interpolation')})"),
+    "noise": ("kelStatusBadNoise", "dither is a method and noise is outside 0..100",
+              lambda f: f"badNoise({all_of(f, 'dither', 'noise')})"),
+    "grayLevels": ("kelStatusBadLevelCount",
+                   "dither is a method and levels is outside 2..256 (8u results) or 2..65536",
+                   lambda f: f"badGrayLevels<{kel(f.types[-1])}>"
+                             f"({all_of(f, 'dither', 'grayLevels')})"),
     "channels": ("", "of C3, AC4 and C4, channel by channel, kelStatusNullPointer if its histogram "
                  "or its levels are null, kelStatusBadHistogramLevels if its nLevels is below 2",
                  histogram_condition(True, "histogramStatus({counts}, {levels}, {n}, {channels})")),
@@ -390,7 +399,8 @@ def load():
             if entry.get("reach", "pixel") not in REACHES:
                 raise SystemExit(f"api/{name}.toml: unknown reach '{entry['reach']}'")
             entry["functions"] = list(expand(entry))
-            unknown = set(entry.get("parallel", [])) - {f.name for f in entry["functions"]}
+            listed = entry.get("parallel", [])
+            unknown = set() if listed is True else set(listed) - {f.name for f in entry["functions"]}
             if unknown:
                 raise SystemExit(f"api/{name}.toml: unknown parallel members {sorted(unknown)}")
         tables.append(table)

@@ -48,6 +48,9 @@ struct Choices {
   int bitOffset = 0;
   Map map = Map::kRotation;
   int border = 8;  // on each side
+  int noise = 0;
+  int dither = kelDitherFloydSteinberg;
+  int grayLevels = 4;
 };
 
 }  // namespace keli::bench

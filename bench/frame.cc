@@ -256,6 +256,15 @@ void Frame::addArgument(const Argument& argument) {
     case Role::kBitOffset:
       value.i = choices_.bitOffset;
       break;
+    case Role::kNoise:
+      value.i = choices_.noise;
+      break;
+    case Role::kDither:
+      value.i = choices_.dither;
+      break;
+    case Role::kGrayLevels:
+      value.i = choices_.grayLevels;
+      break;
     case Role::kRangeMin:
       break;
     case Role::kRangeMax:

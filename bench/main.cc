@@ -131,6 +131,8 @@ std::string labelOf(const Entry& entry) {
   static constexpr const char* kRelations[] = {":less", ":lessEq", ":eq", ":greaterEq", ":greater"};
   static constexpr const char* kAxes[] = {":horizontal", ":vertical", ":both"};
   static constexpr const char* kModes[] = {"", ":nearest", ":linear", "", ":cubic"};
+  static constexpr const char* kDithers[] = {":none", ":floydSteinberg", ":jarvis", ":stucki",
+                                             ":bayer"};
   std::string label = entry.function->name, random;
   const Choices& choices = entry.row->choices;
   for (const registry::Argument& a : entry.function->arguments) {
@@ -144,6 +146,9 @@ std::string labelOf(const Entry& entry) {
     if (a.role == registry::Role::kMap && choices.map == Map::kRandom) random = ":random";
     if (a.role == registry::Role::kRoundMode && choices.roundMode != kelRoundNearest)
       label += ":zero";
+    if (a.role == registry::Role::kDither) label += kDithers[choices.dither];
+    if (a.role == registry::Role::kNoise && choices.noise != 0)
+      label += ":" + std::to_string(choices.noise) + "%";
     if (a.role == registry::Role::kLevelCount) label += ":" + std::to_string(choices.levels);
   }
   if (choices.content == Content::kPhotograph) label += ":photograph";

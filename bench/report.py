@@ -61,8 +61,8 @@ function's. "alpha set" and "alpha copied" mark peers that also write the fourth
 function leaves alone. A peer of a reduction answers numbers, which are compared; peers of norms take
 all channels as one. OpenCV's remap rounds coordinates to 1/32 of a pixel; its result may differ by what
 a smooth image changes in that distance. What follows a function's name is its scale factor, its relation, the size of its mask,
-its axis, its interpolation (and "random" for a map that is not a rotation), or the number of a
-histogram's levels and what its image holds where that is not noise.
+its axis, its interpolation (and "random" for a map that is not a rotation), the noise and method of
+its dither, or the number of a histogram's levels and what its image holds where that is not noise.
 
 In every row all contestants take turns over many rounds, each measured over at least 20
 microseconds, and the best time of each counts. Images come from the library's allocators; masks

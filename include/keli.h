@@ -3647,6 +3647,61 @@ KELI_API KelStatus keliRemap_32f_AC4R(const Kel32f* pSrc, KeliSize srcSize, int 
 KELI_API KelStatus keliRemap_32f_P3R(const Kel32f* const pSrc[3], KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* const pDst[3], int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
 KELI_API KelStatus keliRemap_32f_P4R(const Kel32f* const pSrc[4], KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* const pDst[4], int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
 
+/* ==== Luma and chroma (YCC) ==== */
+
+/**
+ * Converts RGB to the photographic YCC space.
+ *
+ *     L = 0.299 R + 0.587 G + 0.114 B; Y = 0.7132668 L; C1 = 0.43686 (B - L) + 156/255; C2 = 0.53192 (R - L) + 137/255
+ *
+ * L is the luma of ITU-R BT.601. For values in [0, 1]; integers have the same formula with the
+ * chroma of gray at 156/255 and 137/255 of their full scale (8u: 255, 16u: 65535; 16s is offset
+ * by 32768 into the range of 16u, and back). Every operation is in single precision, in the
+ * order written; integers are rounded to nearest, ties to even, and saturated. 32f is not
+ * clamped. Results do not depend on the caller's rounding mode; those that are not numbers are
+ * the quiet NaN 0x7FC00000. AC4 leaves the fourth sample of every destination pixel as it was.
+ * Source and destination may be the same image.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliRGBToYCC_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToYCC_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToYCC_16u_C3R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToYCC_16u_AC4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToYCC_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToYCC_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToYCC_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToYCC_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts the photographic YCC space to RGB.
+ *
+ *     L = 1.3584 Y; c1 = 2.2179 (C1 - 156/255); c2 = 1.8215 (C2 - 137/255); R = L + c2; G = L - 0.194 c1 - 0.509 c2; B = L + c1
+ *
+ * For values in [0, 1], into which 32f results are clamped; integers have the same formula in
+ * their full scale, as in RGBToYCC. Every operation is in single precision, in the order
+ * written; integers are rounded to nearest, ties to even, and saturated. Results do not depend
+ * on the caller's rounding mode; those that are not numbers are the quiet NaN 0x7FC00000. AC4
+ * leaves the fourth sample of every destination pixel as it was. Source and destination may be
+ * the same image.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliYCCToRGB_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliYCCToRGB_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliYCCToRGB_16u_C3R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliYCCToRGB_16u_AC4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliYCCToRGB_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliYCCToRGB_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliYCCToRGB_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliYCCToRGB_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
 #ifdef __cplusplus
 }
 #endif

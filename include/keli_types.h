@@ -81,6 +81,15 @@ enum {
   kelInterpolationCubic = 4   /* of 4 x 4 pixels */
 };
 
+/* How levels between those of a result are spread among pixels. Functions take it as an int. */
+enum {
+  kelDitherNone = 0,
+  kelDitherFloydSteinberg = 1,
+  kelDitherJarvisJudiceNinke = 2,
+  kelDitherStucki = 3,
+  kelDitherBayer = 4
+};
+
 /* All in pixels. */
 typedef struct {
   int32_t width;

@@ -53,7 +53,14 @@ const Words* wordsFor(Role role) {
         {"linear", kelInterpolationLinear},
         {"cubic", kelInterpolationCubic}},
        kelInterpolationLinear},
-      {Role::kRoundMode, {{"zero", kelRoundZero}, {"nearest", kelRoundNearest}}, kelRoundNearest}};
+      {Role::kRoundMode, {{"zero", kelRoundZero}, {"nearest", kelRoundNearest}}, kelRoundNearest},
+      {Role::kDither,
+       {{"none", kelDitherNone},
+        {"floydSteinberg", kelDitherFloydSteinberg},
+        {"jarvis", kelDitherJarvisJudiceNinke},
+        {"stucki", kelDitherStucki},
+        {"bayer", kelDitherBayer}},
+       kelDitherFloydSteinberg}};
   for (const Words& words : kAll) {
     if (words.role == role) return &words;
   }

@@ -29,14 +29,15 @@ bool isInput(Role role) {
 bool isParameter(Role role) {
   return registry::isConstant(role) || role == Role::kScalar || role == Role::kScaleFactor ||
          role == Role::kOrder || role == Role::kTolerance || role == Role::kTopBorder ||
-         role == Role::kLeftBorder || role == Role::kRangeMin || role == Role::kRangeMax;
+         role == Role::kLeftBorder || role == Role::kRangeMin || role == Role::kRangeMax ||
+         role == Role::kNoise || role == Role::kGrayLevels;
 }
 
 // With a value if none is given.
 bool isOptional(Role role) {
   return role == Role::kHint || role == Role::kAxis || role == Role::kInterpolation ||
          role == Role::kRoundMode || role == Role::kMaskSize || role == Role::kAnchor ||
-         role == Role::kElement;
+         role == Role::kElement || role == Role::kDither;
 }
 
 bool isSize(Role role) {

@@ -131,6 +131,21 @@ inline bool badInterpolation(KelInterpolation mode) {
          mode != kelInterpolationCubic;
 }
 
+// Whether an int is one of the methods that spread levels.
+inline bool isDither(int dither) {
+  return dither >= kelDitherFloydSteinberg && dither <= kelDitherBayer;
+}
+
+inline bool badNoise(int dither, int noise) {
+  return isDither(dither) && (noise < 0 || noise > 100);
+}
+
+// T: of the result.
+template <class T>
+bool badGrayLevels(int dither, int levels) {
+  return isDither(dither) && (levels < 2 || levels > (sizeof(T) == 1 ? 256 : 65536));
+}
+
 inline bool badChannelOrder(const int* order) {
   int o[3];
   std::memcpy(o, order, sizeof(o));

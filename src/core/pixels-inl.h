@@ -4,6 +4,8 @@
 // An operation (Op) has
 //   vector(d, in)    std::array of vectors, one for each source channel, to one for each
 //   destination's scalar(in)       the same on samples: the definition
+// and, if it is many instructions, kOnce = true: then it stands in the loop once, short rows go
+// through a copy of a vector's pixels, and nothing is stored around the caches.
 // AC4 and AP4 give and take three channels; a destination's fourth is read and written back (AC4)
 // or not touched (AP4).
 #if defined(KELI_CORE_PIXELS_INL_H_) == defined(HWY_TARGET_TOGGLE)
@@ -23,6 +25,11 @@
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
+
+template <class Op, class = void>
+constexpr bool kStandsOnce = false;
+template <class Op>
+constexpr bool kStandsOnce<Op, std::void_t<decltype(Op::kOnce)>> = Op::kOnce;
 
 // kMostBytes: of a vector; 64 pays where channels are put in order in the first-level cache. Stores
 // around the caches are of 32.
@@ -142,6 +149,43 @@ struct Pixels {
     }
   }
 
+  // Rows of at least a vector of pixels. Those of the last are loaded before any are stored.
+  template <class Op>
+  static HWY_NOINLINE void vectorsOnce(const Op& op, Source src, Destination dst, std::size_t n) {
+    using D = hn::CappedTag<TD, std::min<std::size_t>(HWY_MAX_BYTES, kMostBytes) / kWidest>;
+    const D d;
+    const hn::Rebind<TS, D> ds;
+    constexpr std::size_t kN = hn::MaxLanes(D());
+    const std::size_t end = n - kN;
+    const auto last = loadPixels(ds, src, end);
+    for (std::size_t x = 0;; x += kN) {
+      const std::size_t at = std::min(x, end);
+      const Channels<D> one[1] = {op.vector(d, at < end ? loadPixels(ds, src, at) : last)};
+      storePixels<false>(d, one, dst, at);
+      if (at == end) return;
+    }
+  }
+
+  template <class Op>
+  static HWY_INLINE void rowOnce(const Op& op, Source src, Destination dst, std::size_t n) {
+    constexpr std::size_t kN = std::min<std::size_t>(HWY_MAX_BYTES, kMostBytes) / kWidest;
+    if (n >= kN) return vectorsOnce(op, src, dst, n);
+    constexpr std::size_t kFromSamples = pixelSamples(kFrom), kToSamples = pixelSamples(kTo);
+    TS in[kPlanesIn][kN * kFromSamples] = {};
+    TD out[kPlanesOut][kN * kToSamples];
+    const TS* copies[4] = {};
+    TD* results[4] = {};
+    for (std::size_t k = 0; k < kPlanesIn; ++k) {
+      std::memcpy(in[k], src[k], n * sizeof(TS) * kFromSamples);
+      copies[k] = in[k];
+    }
+    if (kKeepsFourth) std::memcpy(out[0], dst[0], n * sizeof(TD) * kToSamples);
+    for (std::size_t k = 0; k < kPlanesOut; ++k) results[k] = out[k];
+    vectorsOnce(op, copies, results, kN);
+    for (std::size_t k = 0; k < kPlanesOut; ++k)
+      std::memcpy(dst[k], out[k], n * sizeof(TD) * kToSamples);
+  }
+
   // Pixels before the first at which every plane of the destination starts a cache line, or n.
   static HWY_INLINE std::size_t pixelsToLine(Destination dst, std::size_t n) {
     const std::size_t x = unitsToLine(dst[0], pixelSamples(kTo) * sizeof(TD), n);
@@ -160,6 +204,8 @@ struct Pixels {
     constexpr std::size_t kLong = 4096 / sizeof(TD);
     if constexpr (kScalarTarget) {
       samples(op, src, dst, 0, n);
+    } else if constexpr (kStandsOnce<Op>) {
+      rowOnce(op, src, dst, n);
     } else {
       const std::size_t head = n < kLong ? n : pixelsToLine(dst, n);
       if (head != 0) vectors<false, kVectorBytes>(op, src, dst, head);

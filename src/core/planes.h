@@ -1,12 +1,12 @@
 // A band of images that may be planar: up to four planes that share a step. An interleaved image is
-// its plane 0.
+// its plane 0. And its walk with a row kernel, on the calling thread or on a team.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 
 #include "core/cache.h"
-#include "core/types.h"
+#include "core/walk.h"
 
 namespace keli {
 
@@ -53,13 +53,48 @@ inline PlanesBand makePlanesBand(Source src, int srcStep, Destination dst, int d
   const std::size_t srcRow = b.n * sizeof(TS) * storedChannels(kFrom);
   const std::size_t dstRow = b.n * sizeof(TD) * storedChannels(kTo);
   b.streams = b.src[0] != b.dst[0] && exceedsCache(srcRow + dstRow, b.rows);
-  // Images without padding are one long row.
-  if (b.n * sizeof(TS) * pixelSamples(kFrom) == static_cast<std::size_t>(srcStep) &&
-      b.n * sizeof(TD) * pixelSamples(kTo) == static_cast<std::size_t>(dstStep)) {
+  return b;
+}
+
+// Images without padding become one long row.
+template <Layout kFrom, Layout kTo, class TS, class TD>
+inline void joinRows(PlanesBand& b) {
+  if (b.n * sizeof(TS) * pixelSamples(kFrom) == static_cast<std::size_t>(b.srcStep) &&
+      b.n * sizeof(TD) * pixelSamples(kTo) == static_cast<std::size_t>(b.dstStep)) {
     b.n *= b.rows;
     b.rows = 1;
   }
-  return b;
+}
+
+inline PlanesBand rowsOf(const PlanesBand& b, const core::RowBlock& block) {
+  PlanesBand part = b;
+  for (int k = 0; k < 4; ++k) {
+    if (b.src[k] != nullptr) part.src[k] += block.first * b.srcStep;
+    if (b.dst[k] != nullptr) part.dst[k] += block.first * b.dstStep;
+  }
+  part.rows = static_cast<std::size_t>(block.count);
+  return part;
+}
+
+// Calls kernel(band, arguments...), once or for blocks of rows on several threads.
+template <Team kTeam, Layout kFrom, Layout kTo, class TS, class TD, class Kernel,
+          class... Arguments>
+void walkPlanes(PlanesBand b, Kernel kernel, const Arguments&... arguments) {
+  if constexpr (kTeam == Team::kThreads) {
+    const int height = static_cast<int>(b.rows);
+    const std::size_t pixel = storedChannels(kFrom) * sizeof(TS) + storedChannels(kTo) * sizeof(TD);
+    const int team = core::teamSize(height, pixel * b.n * b.rows);
+    if (team > 1) {
+      core::runRows(core::Split::kStatic, height, team, 0, [&](const core::RowBlock& block) {
+        PlanesBand part = rowsOf(b, block);
+        joinRows<kFrom, kTo, TS, TD>(part);
+        kernel(part, arguments...);
+      });
+      return;
+    }
+  }
+  joinRows<kFrom, kTo, TS, TD>(b);
+  kernel(b, arguments...);
 }
 
 }  // namespace keli

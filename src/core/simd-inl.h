@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstring>
+#include <limits>
 #include <type_traits>
 #include <utility>
 
@@ -135,6 +136,14 @@ HWY_INLINE V lessElse(V a, V b) {
 #else
   return hn::IfThenElse(hn::Lt(a, b), a, b);
 #endif
+}
+
+// Floats, those that are no numbers in one form: which of two such operands an operation passes on
+// depends on the order that the compiler gives them.
+template <class D>
+HWY_INLINE hn::Vec<D> settledLanes(D d, hn::Vec<D> v) {
+  const auto none = hn::Set(d, std::numeric_limits<float>::quiet_NaN());
+  return hn::IfThenElse(hn::Eq(v, v), v, none);
 }
 
 // Keeps a vector that is used several times from being loaded for every use, which compilers take

@@ -77,7 +77,9 @@ KelStatus copyLayout(Source src, int srcStep, Destination dst, int dstStep, Keli
     constexpr bool kThree = usedChannels(kFrom) == 3;
     const auto& kernels =
         isPlanar(kTo) ? (kThree ? rows.c3p3 : rows.c4p4) : (kThree ? rows.p3c3 : rows.p4c4);
-    kernels.template get<T>()(makePlanesBand<kFrom, kTo, T, T>(src, srcStep, dst, dstStep, size));
+    walkPlanes<Team::kCaller, kFrom, kTo, T, T>(
+        makePlanesBand<kFrom, kTo, T, T>(src, srcStep, dst, dstStep, size),
+        kernels.template get<T>());
     return kelStatusOk;
   } else {
     const CopyChannelsRows& rows = copyChannelsRows();

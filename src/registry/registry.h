@@ -63,7 +63,10 @@ enum class Role : std::uint8_t {
   kInterpolation,
   kRoundMode,
   kBitOffset,  // of the first pixel of a 1u image
-  kRangeMin,   // the ends of a range of values
+  kNoise,      // a percentage
+  kDither,
+  kGrayLevels,  // of a result
+  kRangeMin,    // the ends of a range of values
   kRangeMax,
   kResult,      // receives a value or, for several channels, an array of them
   kCounts,      // receives a histogram or, for several channels, one for each
@@ -104,6 +107,8 @@ enum class Check : std::uint8_t {
   kAxis,
   kSizes,
   kInterpolation,
+  kNoise,
+  kGrayLevels,
   kChannels,
   kLevels,
 };

@@ -159,12 +159,6 @@ HWY_INLINE void storePixel(hn::Vec<FourReals> pixel, Kel32f* dst) {
   }
 }
 
-template <class D>
-HWY_INLINE hn::Vec<D> settledLanes(D d, hn::Vec<D> v) {
-  const auto none = hn::Set(d, std::numeric_limits<float>::quiet_NaN());
-  return hn::IfThenElse(hn::Eq(v, v), v, none);
-}
-
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

@@ -150,6 +150,18 @@ bool spanFails(const TestCall& call, const std::vector<Value>& values) {
   return !(most - least > 0);
 }
 
+// Whether levels are spread, which makes a function look at how.
+bool spreads(const TestCall& call, const std::vector<Value>& values) {
+  const std::int64_t dither = valueOf(call, values, Role::kDither).i;
+  return dither >= 1 && dither <= 4;
+}
+
+bool grayLevelsFail(const TestCall& call, const std::vector<Value>& values) {
+  const std::int64_t levels = valueOf(call, values, Role::kGrayLevels).i;
+  const bool bytes = call.function.arguments[call.written()].type == Type::k8u;
+  return spreads(call, values) && (levels < 2 || levels > (bytes ? 256 : 65536));
+}
+
 bool fails(const TestCall& call, const std::vector<Value>& values, Check check, bool lateValues) {
   const auto number = [&](Role role) { return valueOf(call, values, role).i; };
   switch (check) {
@@ -211,6 +223,10 @@ bool fails(const TestCall& call, const std::vector<Value>& values, Check check, 
       const std::int64_t mode = number(Role::kInterpolation);
       return mode != 1 && mode != 2 && mode != 4;
     }
+    case Check::kNoise:
+      return spreads(call, values) && (number(Role::kNoise) < 0 || number(Role::kNoise) > 100);
+    case Check::kGrayLevels:
+      return grayLevelsFail(call, values);
     case Check::kChannels:
       return channelStatus(call, values) != 0;
     case Check::kLevels:
@@ -258,6 +274,10 @@ KelStatus codeOf(Check check) {
       return -34;
     case Check::kRow:
       return -37;
+    case Check::kGrayLevels:
+      return -54;
+    case Check::kNoise:
+      return -55;
     case Check::kElement:
       return -59;
     case Check::kEpsilon:

@@ -87,6 +87,17 @@ TestCall::TestCall(const registry::Function& f, const Geometry& g, std::uint64_t
       case Role::kBitOffset:
         v.i = bitOffset_;
         break;
+      case Role::kNoise:
+        v.i = std::int64_t{order[0]} * 50;
+        break;
+      case Role::kDither:
+        v.i = static_cast<std::int64_t>(pick(random, 6));
+        break;
+      case Role::kGrayLevels: {
+        static constexpr int kLevels[] = {2, 3, 4, 7, 16, 200, 256};
+        v.i = kLevels[pick(random, std::size(kLevels))];
+        break;
+      }
       case Role::kRangeMin:
         v.f = order[0] * 100 - 50;
         break;
