@@ -161,6 +161,51 @@ panel "dilated by a disc of 15" keliDilate_8u_C1R camera.png --maskSize 15x15 --
 panel "eroded by a cross of 21" keliErode_8u_C3R coffee.png --maskSize 21x21 --pMask cross
 endSheet
 
+# The three channels of a picture in a space.
+space() {
+  printf 'keli run keliRGBTo%s_8u_C3R %s -o %s.png\n' "$1" "$2" "$1"
+  "$keli" run "keliRGBTo$1_8u_C3R" "$2" -o "$1.png"
+  local channel=0
+  for name in $3; do
+    panel "$name, by RGBTo$1" keliCopy_8u_C3C1R "$1.png" --srcChannel $(( channel++ ))
+  done
+}
+photograph astronaut.png
+panel "gray" keliRGBToGray_8u_C3C1R astronaut.png
+panel "gray of red alone" keliColorToGray_8u_C3C1R astronaut.png --weights 1,0,0
+panel "gray with green twice, blue away" keliColorToGray_8u_C3C1R astronaut.png --weights 0,2,-1
+space HSV astronaut.png "hue saturation value"
+panel "and back" keliHSVToRGB_8u_C3R HSV.png
+space HLS astronaut.png "hue lightness saturation"
+panel "and back" keliHLSToRGB_8u_C3R HLS.png
+space YCbCr astronaut.png "Y Cb Cr"
+panel "and back" keliYCbCrToRGB_8u_C3R YCbCr.png
+space YUV astronaut.png "Y U V"
+panel "and back" keliYUVToRGB_8u_C3R YUV.png
+space YCC astronaut.png "Y C1 C2"
+panel "and back" keliYCCToRGB_8u_C3R YCC.png
+space XYZ astronaut.png "X Y Z"
+panel "and back" keliXYZToRGB_8u_C3R XYZ.png
+space LUV astronaut.png "L u v"
+panel "and back" keliLUVToRGB_8u_C3R LUV.png
+endSheet
+
+photograph camera.png
+photograph coffee.png
+for dither in floydSteinberg jarvis stucki bayer; do
+  panel "2 levels, $dither" keliReduceBits_8u_C1R camera.png --noise 0 --dither $dither --levels 2
+done
+for dither in floydSteinberg bayer; do
+  panel "4 levels, $dither" keliReduceBits_8u_C1R camera.png --noise 0 --dither $dither --levels 4
+  panel "4 levels a channel, $dither" keliReduceBits_8u_C3R coffee.png \
+    --noise 0 --dither $dither --levels 4
+done
+panel "2 levels, jarvis, noise 50 %" keliReduceBits_8u_C1R camera.png \
+  --noise 50 --dither jarvis --levels 2
+panel "4 levels, bayer, noise 100 %" keliReduceBits_8u_C3R coffee.png \
+  --noise 100 --dither bayer --levels 4
+endSheet
+
 # Numbers of pictures are printed.
 for call in "keliMean_8u_C3R chelsea.png" "keliMinMax_8u_C1R camera.png" \
     "keliMaxIndx_8u_C1R camera.png" "keliNormRel_L2_8u_C3R coffee.png chelsea.png" \

@@ -114,26 +114,4 @@ inline void checkAllColors(const char* name, const PixelDefinition<Kel8u>& defin
   });
 }
 
-// What a colour is away from itself after a conversion and its inverse.
-struct RoundTrip {
-  int most = 0;     // of any sample
-  double mean = 0;  // of all of them
-};
-
-inline RoundTrip roundTrip(const char* there, const char* back) {
-  const ByteConversion forward(there), inverse(back);
-  RoundTrip trip;
-  std::uint64_t sum = 0;
-  forAllColors([&](const std::vector<Kel8u>& row) {
-    const std::vector<Kel8u> found = inverse(forward(row));
-    for (std::size_t i = 0; i < row.size(); ++i) {
-      const int error = std::abs(found[i] - row[i]);
-      trip.most = std::max(trip.most, error);
-      sum += static_cast<std::uint64_t>(error);
-    }
-  });
-  trip.mean = static_cast<double>(sum) / (3 << 24);
-  return trip;
-}
-
 }  // namespace keli::test
