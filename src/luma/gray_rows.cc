@@ -44,6 +44,22 @@ struct GrayOfBytes {
                                                 second);
                     }))};
   }
+  static constexpr bool kFours = true;
+  template <class D>
+  HWY_INLINE std::array<hn::Vec<D>, 1> fours(D d, const hn::Vec<D> (&in)[4]) const {
+    const PairTag<D> dp;
+    const hn::Repartition<std::int32_t, D> dw;
+    const auto& w = any.formula.weights;
+    const auto even = factorPair(d, w[0], w[2]), odd = factorPair(d, w[1], 0);
+    hn::Vec<decltype(dw)> gray[4];
+    unrolled<4>([&](auto j) KELI_LAMBDA {
+      const SplitFours<D> split = splitFours(d, in[j]);
+      gray[j] = hn::ShiftRight<12>(
+          addProductsOfPairs(dw, multiplyAddPairs(dw, split.even, even), split.odd, odd));
+    });
+    return {
+        packSaturated(d, packSaturated(dp, gray[0], gray[1]), packSaturated(dp, gray[2], gray[3]))};
+  }
   HWY_INLINE auto scalar(const std::array<Kel8u, 3>& in) const { return any.scalar(in); }
 };
 
