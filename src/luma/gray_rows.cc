@@ -28,9 +28,10 @@ struct GrayOfWords : Rounded {
   }
 };
 
-// Weights that fit 16 bits.
+// Weights of at most kMost in size, which fit 16 bits, and two digits of 8 in base 128.
 struct GrayOfBytes {
   static constexpr bool kOnce = true;
+  static constexpr std::int32_t kMost = 127 * 128;
   WordPixels<Kel8u, GrayOfWords> any;
 
   template <class D>
@@ -44,21 +45,31 @@ struct GrayOfBytes {
                                                 second);
                     }))};
   }
+  // By digits of 7 bits, for products of bytes.
   static constexpr bool kFours = true;
   template <class D>
   HWY_INLINE std::array<hn::Vec<D>, 1> fours(D d, const hn::Vec<D> (&in)[4]) const {
     const PairTag<D> dp;
     const hn::Repartition<std::int32_t, D> dw;
-    const auto& w = any.formula.weights;
-    const auto even = factorPair(d, w[0], w[2]), odd = factorPair(d, w[1], 0);
+    const auto high = digits(d, [](std::int32_t w) { return (w + 64) >> 7; }),
+               low = digits(d, [](std::int32_t w) { return ((w + 64) & 127) - 64; });
     hn::Vec<decltype(dw)> gray[4];
     unrolled<4>([&](auto j) KELI_LAMBDA {
-      const SplitFours<D> split = splitFours(d, in[j]);
-      gray[j] = hn::ShiftRight<12>(
-          addProductsOfPairs(dw, multiplyAddPairs(dw, split.even, even), split.odd, odd));
+      const auto sum = addProductsOfFours(dw, hn::Zero(dw), in[j], high);
+      gray[j] = hn::ShiftRight<12>(addProductsOfFours(dw, hn::ShiftLeft<7>(sum), in[j], low));
     });
     return {
         packSaturated(d, packSaturated(dp, gray[0], gray[1]), packSaturated(dp, gray[2], gray[3]))};
+  }
+
+  // A signed byte of each weight in the bytes of a pixel of four.
+  template <class D, class F>
+  HWY_INLINE hn::Vec<hn::RebindToSigned<D>> digits(D, const F& digit) const {
+    std::uint32_t bytes = 0;
+    for (std::size_t k = 0; k < 3; ++k)
+      bytes |= (static_cast<std::uint32_t>(digit(any.formula.weights[k])) & 0xFF) << 8 * k;
+    const hn::Repartition<std::uint32_t, D> dw;
+    return hn::BitCast(hn::RebindToSigned<D>(), hn::Set(dw, bytes));
   }
   HWY_INLINE auto scalar(const std::array<Kel8u, 3>& in) const { return any.scalar(in); }
 };
@@ -107,7 +118,7 @@ void ownColorToGray(const PlanesBand& b, const luma::Weights& weights) {
     bool narrow = true;
     for (std::size_t k = 0; k < 3; ++k) {
       const std::int32_t w = any.formula.weights[k] = luma::fixedWeight(weights[k]);
-      narrow = narrow && w == static_cast<std::int16_t>(w);
+      narrow = narrow && -GrayOfBytes::kMost <= w && w <= GrayOfBytes::kMost;
     }
     if (narrow) {
       map(GrayOfBytes{any});

@@ -39,10 +39,12 @@ constexpr Weights kWeights[] = {
     {1, 0, 0},
     {0, 0, -1},
     {0.5f * kStep, 1.5f * kStep, 2.5f * kStep},  // ties of bytes' weights
-    {32767 * kStep, -8, -32767 * kStep},         // the largest in 16 bits
-    {-8, -8, -8},
-    {8, -1, -5},  // the first beyond
-    {-0.1f, 1, -8 - kStep},
+    {16256 * kStep, -16256 * kStep, 3},          // the largest that are products of bytes
+    {-3.96875f, -3.96875f, -3.96875f},
+    {3.96875f, 3.96875f, 3.96875f},
+    {16257 * kStep, -1, -2},  // the first beyond
+    {-0.1f, 1, -16257 * kStep},
+    {8, -1, -5},
     {255.9f, -256, 1},
     {256, 256, 256},
     {-1e30f, 300, 0.25f},  // beyond the range
