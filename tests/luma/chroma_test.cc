@@ -62,6 +62,11 @@ TEST(Luma, ChromaOfAllColors) {
   }
 }
 
+TEST(Luma, DestinationMayBeTheSource) {
+  for (const char* operation : {"RGBToYCC", "YCCToRGB"}) EXPECT_EQ(checkSameImages(operation), 8);
+  for (const Conversion& c : kConversions) EXPECT_EQ(checkSameImages(c.operation), 3);
+}
+
 struct Space {
   const char* name;
   double black, luma;  // of black, and from there to white
