@@ -3647,7 +3647,7 @@ KELI_API KelStatus keliRemap_32f_AC4R(const Kel32f* pSrc, KeliSize srcSize, int 
 KELI_API KelStatus keliRemap_32f_P3R(const Kel32f* const pSrc[3], KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* const pDst[3], int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
 KELI_API KelStatus keliRemap_32f_P4R(const Kel32f* const pSrc[4], KeliSize srcSize, int srcStep, KeliRect srcROI, const Kel32f* pxMap, int xMapStep, const Kel32f* pyMap, int yMapStep, Kel32f* const pDst[4], int dstStep, KeliSize dstRoiSize, KelInterpolation interpolation);
 
-/* ==== Luma and chroma (YCC) ==== */
+/* ==== Luma and chroma (YCC, YCbCr, YUV, gray) ==== */
 
 /**
  * Converts RGB to the photographic YCC space.
@@ -3701,6 +3701,133 @@ KELI_API KelStatus keliYCCToRGB_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s*
 KELI_API KelStatus keliYCCToRGB_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
 KELI_API KelStatus keliYCCToRGB_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
 KELI_API KelStatus keliYCCToRGB_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts RGB to YCbCr of studio range.
+ *
+ *     Y = (16843 R + 33030 G + 6423 B + 0x108000) >> 16; Cb = (-9699 R - 19071 G + 28770 B + 0x808000) >> 16; Cr = (28770 R - 24117 G - 4653 B + 0x808000) >> 16
+ *
+ * The color space of ITU-R BT.601 in the range of a studio: Y from 16 (black) to 235 (white),
+ * Cb and Cr from 16 to 240 with 128 for gray. The sums are exact; they are rounded to nearest,
+ * as 0x8000 is a half, and no result leaves its range. P3 is of three planes, which share a
+ * step, on either side. AC4 leaves the fourth sample of every destination pixel as it was.
+ * Source and destination may be the same image.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliRGBToYCbCr_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToYCbCr_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToYCbCr_8u_P3R(const Kel8u* const pSrc[3], int srcStep, Kel8u* const pDst[3], int dstStep, KeliSize roiSize);
+
+/**
+ * Converts YCbCr of studio range to RGB.
+ *
+ *     L = 76284 (Y - 16); R = (L + 104595 (Cr - 128)) >> 16; G = (L - 25690 (Cb - 128) - 53281 (Cr - 128)) >> 16; B = (L + 132186 (Cb - 128)) >> 16
+ *
+ * The inverse of RGBToYCbCr (ITU-R BT.601). The sums are exact, rounded down and saturated to
+ * 0..255; Y beyond 16..235 and chroma beyond 16..240 are taken as they are. P3 is of three
+ * planes, which share a step; P3C3 reads planes and writes pixels. AC4 leaves the fourth sample
+ * of every destination pixel as it was. Source and destination may be the same image.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliYCbCrToRGB_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliYCbCrToRGB_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliYCbCrToRGB_8u_P3R(const Kel8u* const pSrc[3], int srcStep, Kel8u* const pDst[3], int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliYCbCrToRGB_8u_P3C3R(const Kel8u* const pSrc[3], int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts RGB to YUV.
+ *
+ *     Y = (19595 R + 38469 G + 7471 B + 32768) >> 16; U = ((16121 (B - Y) + 16384) >> 15) + 128; V = ((28737 (R - Y) + 16384) >> 15) + 128
+ *
+ * Y is the luma of ITU-R BT.601 in full range, 0.299 R + 0.587 G + 0.114 B; U and V are 0.492
+ * and 0.877 times the distance of blue and red from it, around 128. The factors are fractions
+ * of 65536 and 32768, products are rounded to nearest (ties up), so that white is 255, 128,
+ * 128, and U and V are of the rounded Y. V is saturated to 0..255; U keeps within 17..239. P3
+ * is of three planes, which share a step; C3P3 reads pixels and writes planes. AC4 leaves the
+ * fourth sample of every destination pixel as it was. Source and destination may be the same
+ * image.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliRGBToYUV_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToYUV_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToYUV_8u_P3R(const Kel8u* const pSrc[3], int srcStep, Kel8u* const pDst[3], int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToYUV_8u_C3P3R(const Kel8u* pSrc, int srcStep, Kel8u* const pDst[3], int dstStep, KeliSize roiSize);
+
+/**
+ * Converts YUV to RGB.
+ *
+ *     u = U - 128; v = V - 128; R = Y + ((9339 v + 4096) >> 13); G = Y + ((-3228 u - 4760 v + 4096) >> 13); B = Y + ((16646 u + 4096) >> 13)
+ *
+ * The inverse of RGBToYUV: R = Y + 1.140 v, G = Y - 0.394 u - 0.581 v, B = Y + 2.032 u, with
+ * factors as fractions of 8192, sums rounded to nearest (ties up) and results saturated to
+ * 0..255. P3 is of three planes, which share a step; P3C3 reads planes and writes pixels. AC4
+ * leaves the fourth sample of every destination pixel as it was. Source and destination may be
+ * the same image.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliYUVToRGB_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliYUVToRGB_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliYUVToRGB_8u_P3R(const Kel8u* const pSrc[3], int srcStep, Kel8u* const pDst[3], int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliYUVToRGB_8u_P3C3R(const Kel8u* const pSrc[3], int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts RGB to gray.
+ *
+ *     8u: dst = (1225 R + 2404 G + 467 B) >> 12; else 0.299 R + 0.587 G + 0.114 B
+ *
+ * The luma of ITU-R BT.601: ColorToGray with the weights 0.299, 0.587 and 0.114. 8u has them as
+ * fractions of 4096, whose sum is 4096, and rounds down. The others multiply and add in single
+ * precision, in the order written, 16s the signed values; integers are rounded to nearest, ties
+ * to even, and saturated. 32f is not clamped; results that are not numbers are the quiet NaN
+ * 0x7FC00000. Results do not depend on the caller's rounding mode. AC4 ignores the fourth
+ * sample of a pixel.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliRGBToGray_8u_C3C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToGray_8u_AC4C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToGray_16u_C3C1R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToGray_16u_AC4C1R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToGray_16s_C3C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToGray_16s_AC4C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToGray_32f_C3C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToGray_32f_AC4C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts a color image to gray with given weights.
+ *
+ *     dst = w0 c0 + w1 c1 + w2 c2; 8u: (w0 c0 + w1 c1 + w2 c2) >> 12 with weights in units of 1 / 4096
+ *
+ * weights: three, of the channels in their order, of any sign and size. 8u rounds each weight
+ * times 4096 to the nearest integer, ties to even, with weights beyond -256..256 taken as these
+ * and those that are not numbers as 0; the sum is exact, rounded down and saturated. The others
+ * multiply and add in single precision, in the order written, 16s the signed values; integers
+ * are rounded to nearest, ties to even, and saturated, and a sum that is not a number gives the
+ * upper end of the range. 32f is not clamped; results that are not numbers are the quiet NaN
+ * 0x7FC00000. Results do not depend on the caller's rounding mode. AC4 ignores the fourth
+ * sample of a pixel. That weights is not null is checked last of all.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusNullPointer if an
+ * array of values is null.
+ */
+KELI_API KelStatus keliColorToGray_8u_C3C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel32f weights[3]);
+KELI_API KelStatus keliColorToGray_8u_AC4C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, const Kel32f weights[3]);
+KELI_API KelStatus keliColorToGray_16u_C3C1R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, const Kel32f weights[3]);
+KELI_API KelStatus keliColorToGray_16u_AC4C1R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, const Kel32f weights[3]);
+KELI_API KelStatus keliColorToGray_16s_C3C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel32f weights[3]);
+KELI_API KelStatus keliColorToGray_16s_AC4C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, const Kel32f weights[3]);
+KELI_API KelStatus keliColorToGray_32f_C3C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f weights[3]);
+KELI_API KelStatus keliColorToGray_32f_AC4C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f weights[3]);
 
 #ifdef __cplusplus
 }

@@ -7,5 +7,9 @@ namespace keli::luma {
 
 struct RGBToYCC {};
 struct YCCToRGB {};
+struct RGBToYCbCr {};
+struct YCbCrToRGB {};
+struct RGBToYUV {};
+struct YUVToRGB {};
 
 }  // namespace keli::luma

@@ -51,6 +51,40 @@ void checkConversion(const std::string& operation, registry::Type type, int memb
       << operation;
 }
 
+// Calls of f whose destination is its source give what others do, on every target; a fourth channel
+// that is left alone aside.
+inline void checkSameImage(const registry::Function& f) {
+  const Layout layout = f.arguments[0].layout;
+  for (const std::int64_t target : testedTargets()) {
+    const UseTarget use(target);
+    for (const int width : {3, 64, 150, 1500, 4400}) {
+      const Geometry g = {width, 3, 0, Place::kMiddle, 32};
+      TestCall apart(f, g, runSeed()), same(f, g, runSeed());
+      for (const std::size_t i : {0, 1}) same.values[i + 2] = same.values[i];
+      ASSERT_EQ(apart.run().status, kelStatusOk) << f.name;
+      ASSERT_EQ(same.run().status, kelStatusOk) << f.name;
+      std::vector<std::uint8_t> expected = apart.region(2), found = same.region(0);
+      if (layout == Layout::AC4) {
+        for (std::size_t i = 0; i < found.size(); ++i) {
+          if (i / registry::bytesOf(f.arguments[0].type) % 4 == 3) found[i] = expected[i];
+        }
+      }
+      ASSERT_TRUE(found == expected) << f.name << " " << targetName(target) << " width " << width;
+    }
+  }
+}
+
+// All members of an operation that read and write the same layout.
+inline int checkSameImages(const std::string& operation) {
+  int members = 0;
+  for (const registry::Function& f : registry::functions()) {
+    if (f.operation != operation || f.arguments[0].layout != f.arguments[2].layout) continue;
+    checkSameImage(f);
+    ++members;
+  }
+  return members;
+}
+
 // An 8u conversion of C3 to C3 or C1, called with rows of pixels.
 class ByteConversion {
  public:
