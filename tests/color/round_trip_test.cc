@@ -105,9 +105,10 @@ TEST(Color, RoundTripsLoseWhatIsDocumented) {
   for (const Function& there : registry::functions()) {
     const std::string name = there.name, operation = there.operation;
     const std::string space = operation.rfind("RGBTo", 0) == 0 ? operation.substr(5) : "";
-    const std::string suffix = name.substr(name.find('_', name.find(operation)));
+    if (space.empty()) continue;
+    const std::string suffix = name.substr(4 + operation.size());
     const Function* const back = registry::find("keli" + space + "ToRGB" + suffix);
-    if (space.empty() || back == nullptr || std::string(there.descriptor) != "C3R") continue;
+    if (back == nullptr || std::string(there.descriptor) != "C3R") continue;
     ++trips;
     const Type type = there.arguments[0].type;
     const std::string row = space + " " + registry::nameOf(type);
