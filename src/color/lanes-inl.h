@@ -53,11 +53,15 @@ inline constexpr float kFullScale<Kel16u> = 65535;
 template <>
 inline constexpr float kFullScale<Kel16s> = 65535;
 
-// Floats cut to [0, 1].
+// Floats cut to [0, most]; those that are no numbers stay.
+template <class D>
+HWY_INLINE hn::Vec<D> within(D d, float most, hn::Vec<D> v) {
+  return greaterElse(hn::Zero(d), lessElse(hn::Set(d, most), v));
+}
+
 template <class D>
 HWY_INLINE hn::Vec<D> withinUnit(D d, hn::Vec<D> v) {
-  const auto one = hn::Set(d, 1.f), zero = hn::Zero(d);
-  return hn::IfThenElse(hn::Gt(v, one), one, hn::IfThenElse(hn::Lt(v, zero), zero, v));
+  return within(d, 1, v);
 }
 
 // f(dw, words) on unsigned lanes of in as signed ones of 32 bits; its results, saturated to lanes
