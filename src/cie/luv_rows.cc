@@ -71,8 +71,7 @@ struct LuvToRgb : Rounded {
     const auto y = root * root * root;
     const auto perQ = y / q;
     // No colour has v' = 0.
-    const auto black =
-        hn::Or(hn::Lt(level, c(kLeastL * kScale.level)), hn::Eq(q, hn::Zero(d)));
+    const auto black = hn::Or(hn::Lt(level, c(kLeastL * kScale.level)), hn::Eq(q, hn::Zero(d)));
     Channels<D> rgb;
     unrolled<3>([&](auto k) KELI_LAMBDA {
       constexpr Weights kOf = weightsOf(k);

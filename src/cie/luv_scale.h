@@ -1,8 +1,8 @@
 // How samples of T carry L, u and v of CIE LUV (1976), and the numbers of its formulas.
 //
 // With the CIE's chromaticities u' = 4 X / D and v' = 9 Y / D, D = X + 15 Y + 3 Z, and those of
-// white, un and vn, a sample of L is s L, and one of u is f s L (u' - un) + offset. In floats s = 1,
-// f = 13 and offset = 0.
+// white, un and vn, a sample of L is s L, and one of u is f s L (u' - un) + offset. In floats s =
+// 1, f = 13 and offset = 0.
 #pragma once
 
 #include <type_traits>
