@@ -1,6 +1,6 @@
 // Row kernels of RGBToLUV and LUVToRGB. L, u and v are formed without X, Y and Z:
 //   u' - un = ((4 - un) X - 15 un Y - 3 un Z) / D,  v' - vn = (9 Y - vn D) / D
-// are weighted sums of R, G and B over another one, D = X + 15 Y + 3 Z. Back, with u' and v' from
+// have weighted sums of R, G and B above and below, D = X + 15 Y + 3 Z. Back, with u' and v' from
 // samples as P / (f s L) and Q / (g s L),
 //   X = 2.25 Y u' / v' = 2.25 (g / f) P (Y / Q),  Z + X / 3 + 5 Y = 3 Y / v' = 3 g s L (Y / Q)
 // so that one division is enough.
@@ -24,6 +24,12 @@ namespace keli::HWY_NAMESPACE {
 template <class T>
 struct RgbToLuv : Rounded {
   template <class D>
+  static HWY_INLINE hn::Vec<D> rootOf(D d, hn::Vec<D> y) {
+    if constexpr (std::is_same_v<T, Kel32f>) return cubeRoot(d, y);
+    return nearCubeRoot(d, y);
+  }
+
+  template <class D>
   HWY_INLINE Channels<D> operator()(D d, const Channels<D>& rgb) const {
     using namespace cie;
     constexpr LuvScale kScale = luvScale<T>();
@@ -34,7 +40,7 @@ struct RgbToLuv : Rounded {
     const auto c = [&](double v) KELI_LAMBDA { return hn::Set(d, static_cast<float>(v)); };
 
     const auto y = weighted(d, kY, rgb);
-    const auto curve = c(116 * kScale.level) * cubeRoot(d, y) - c(16 * kScale.level);
+    const auto curve = c(116 * kScale.level) * rootOf(d, y) - c(16 * kScale.level);
     const auto level =
         hn::IfThenElse(hn::Gt(y, c(kLeastRootY)), curve, c(903.3 * kScale.level) * y);
     // Where Y is 0 so are u and v, whatever D is.

@@ -40,9 +40,15 @@ struct XyzToRgb : Rounded {
   }
 };
 
+// Floats are bound by the memory: their loops are worth unrolling, and stores around the caches.
+template <template <class> class Formula, class T>
+struct XyzPixels : RealPixels<T, Formula<T>> {
+  static constexpr bool kOnce = !std::is_same_v<T, Kel32f>;
+};
+
 template <template <class> class Formula, class T>
 constexpr color::Kernels xyzKernels() {
-  return interleavedKernels<T, RealPixels<T, Formula<T>>, 64>();
+  return interleavedKernels<T, XyzPixels<Formula, T>, 64>();
 }
 
 const color::Kernels kToXyz16u = xyzKernels<RgbToXyz, Kel16u>();

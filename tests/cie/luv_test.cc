@@ -133,9 +133,9 @@ void checkNear(const std::string& operation, Type type, double tolerance) {
 }
 
 TEST(Luv, MembersAreNearTheirDefinition) {
-  checkNear<Kel8u>("RGBToLUV", Type::k8u, 0.5001);
-  checkNear<Kel16u>("RGBToLUV", Type::k16u, 0.52);
-  checkNear<Kel16s>("RGBToLUV", Type::k16s, 0.52);
+  checkNear<Kel8u>("RGBToLUV", Type::k8u, 0.5002);
+  checkNear<Kel16u>("RGBToLUV", Type::k16u, 0.55);
+  checkNear<Kel16s>("RGBToLUV", Type::k16s, 0.55);
   checkNear<Kel32f>("RGBToLUV", Type::k32f, 1e-4);
   checkNear<Kel8u>("LUVToRGB", Type::k8u, 0.501);
   checkNear<Kel16u>("LUVToRGB", Type::k16u, 0.65);
@@ -167,7 +167,7 @@ void checkAllBytes(const char* name, bool forward, double tie) {
   });
 }
 
-TEST(Luv, OfAllBytes) { checkAllBytes("keliRGBToLUV_8u_C3R", true, 1e-4); }
+TEST(Luv, OfAllBytes) { checkAllBytes("keliRGBToLUV_8u_C3R", true, 2e-4); }
 TEST(Luv, RgbOfAllBytes) { checkAllBytes("keliLUVToRGB_8u_C3R", false, 1e-3); }
 
 using Floats = std::array<float, 3>;
