@@ -41,9 +41,8 @@ template <class D>
 HWY_INLINE hn::Vec<D> nearCubeRoot(D d, hn::Vec<D> y) {
   const auto c = [&](float v) KELI_LAMBDA { return hn::Set(d, v); };
   const auto [w, e] = rootParts(d, y);
-  return w *
-         (c(1) + e * (c(0.66665218f) +
-                      e * (c(0.55553415f) + e * (c(0.49937873f) + e * c(0.45870015f)))));
+  return w * (c(1) + e * (c(0.66665218f) +
+                          e * (c(0.55553415f) + e * (c(0.49937873f) + e * c(0.45870015f)))));
 }
 
 // Within one unit in the last place, for normal y above 0; infinite y and those that are no numbers
