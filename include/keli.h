@@ -3787,16 +3787,16 @@ KELI_API KelStatus keliXYZToRGB_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f
  * 0. The proportional part ends at 0.01, so there L falls by 0.04; the CIE's 0.008856 joins
  * both parts.
  *
- * 32f holds L, u and v themselves: 0 to 100, -83 to 175 and -134 to 107 for RGB in [0, 1],
- * where they are within 1e-4 of the exact values. The cube root is within one unit in the last
- * place for all Y above 0.01. (A power with the exponent 0.33333334 in its place would differ
- * by less than 5e-8 of its value for Y up to 1.) Where Y is infinite L is; what IEEE arithmetic
- * calls no number is the quiet NaN 0x7FC00000.
+ * 32f holds L, u and v themselves: 0 to 100, -83.1 to 175.1 and -134.2 to 107.4 for RGB in [0,
+ * 1]. There they are within 1e-4 of the exact values, unless rounding takes Y across 0.01. The
+ * cube root is within one unit in the last place for all Y above 0.01. (A power with the
+ * exponent 0.33333334 in its place would differ by less than 5e-8 of its value for Y up to 1.)
+ * Where Y is infinite L is; what IEEE arithmetic calls no number is the quiet NaN 0x7FC00000.
  *
  * Integers hold s = 2.55 L, 3.6723163 s (4 X / D - 0.197839) + 96.90396 and 4.961832 s (9 Y / D
  * - 0.468342) + 136.7939, for 16 bits all three times 257, 16s less 32768; rounded to nearest
  * and saturated. For 8u that is the integer nearest to the exact value, unless this lies within
- * 0.0005 of the middle between two; for 16 bits it is within 0.6 of the exact value.
+ * 0.0002 of the middle between two; for 16 bits it is within 0.55 of the exact value.
  *
  * Results are the same for every processor and do not depend on the caller's rounding mode. AC4
  * leaves the fourth sample of every destination pixel as it was. Source and destination may be
@@ -3827,11 +3827,12 @@ KELI_API KelStatus keliRGBToLUV_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f
  * proportional part of RGBToLUV is not inverted; where v' is 0, which no colour has, it is
  * black as well.
  *
- * In single precision: for L up to 100 and the u and v of RGB in [0, 1], 32f is within 1e-5 of
- * the exact values. A component of 32f that IEEE arithmetic calls no number, as of infinite L,
- * is the quiet NaN 0x7FC00000. Results are the same for every processor and do not depend on
- * the caller's rounding mode. AC4 leaves the fourth sample of every destination pixel as it
- * was. Source and destination may be the same image.
+ * For the L, u and v of RGB in [0, 1], 32f is within 5e-6 of the exact values and 16 bits
+ * within 0.65. For 8u it is the nearest integer for all L, u and v, unless the exact value lies
+ * within 0.001 of the middle between two. A component of 32f that IEEE arithmetic calls no
+ * number, as of infinite L, is the quiet NaN 0x7FC00000. Results are the same for every
+ * processor and do not depend on the caller's rounding mode. AC4 leaves the fourth sample of
+ * every destination pixel as it was. Source and destination may be the same image.
  *
  * On large regions the rows are shared out among threads, with the same results.
  *

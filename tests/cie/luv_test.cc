@@ -1,6 +1,4 @@
 // LUV against its definition in double precision.
-#include <optional>
-
 #include "cie/cube_root_rows.h"
 #include "cie/scale.h"
 #include "keli.h"
@@ -217,23 +215,18 @@ TEST(Luv, SpecialFloats) {
   }
 }
 
-// Roots of n floats whose bits are `spacing` apart.
+// The largest error, in units of the last place, of the roots of n floats whose bits are `spacing`
+// apart.
 double worstRoot(std::uint32_t firstBits, std::uint32_t spacing, std::size_t n) {
   std::vector<float> y(n), root(n);
   for (std::size_t i = 0; i < n; ++i) {
     const std::uint32_t bits = firstBits + static_cast<std::uint32_t>(i) * spacing;
     std::memcpy(&y[i], &bits, sizeof bits);
   }
-  std::optional<std::vector<float>> other;
   double worst = 0;
   for (const std::int64_t target : testedTargets()) {
     const UseTarget use(target);
     cubeRootRows().roots(y.data(), root.data(), n);
-    if (other) {
-      EXPECT_EQ(*other, root) << targetName(target);
-      continue;
-    }
-    other = root;
     for (std::size_t i = 0; i < n; ++i) {
       const double exact = std::cbrt(static_cast<double>(y[i]));
       const double error = std::ldexp(std::abs(root[i] - exact), 23 - std::ilogb(exact));
@@ -250,15 +243,6 @@ TEST(Luv, CubeRootsAreWithinOneUnit) {
   // From 0.01 to the largest float.
   EXPECT_LT(worstRoot(0x3C23D70A, 1009, (0x7F7FFFFF - 0x3C23D70A) / 1009 / 16 * 16), 1);
   EXPECT_LT(worstRoot(0x7F7FFFF0, 1, 16), 1);
-
-  std::vector<float> special(16, std::numeric_limits<float>::infinity()), roots(16);
-  special[3] = std::nanf("");
-  for (const std::int64_t target : testedTargets()) {
-    const UseTarget use(target);
-    cubeRootRows().roots(special.data(), roots.data(), 16);
-    EXPECT_EQ(roots[0], special[0]);
-    EXPECT_TRUE(std::isnan(roots[3]));
-  }
 }
 
 }  // namespace
