@@ -24,7 +24,9 @@ Pixel<T> times(const double (&matrix)[3][3], bool cut, const Pixel<T>& in) {
   for (std::size_t k = 0; k < 3; ++k) {
     float sum = 0;
     for (std::size_t c = 0; c < 3; ++c) {
-      const float sample = static_cast<float>(in[c] + scaleOf<T>().offset);
+      // Not plus 0 for floats: that would turn -0 into 0.
+      const float sample =
+          static_cast<float>(std::is_floating_point_v<T> ? in[c] : in[c] + scaleOf<T>().offset);
       const float product = static_cast<float>(matrix[k][c]) * sample;
       sum = c == 0 ? product : sum + product;
     }
