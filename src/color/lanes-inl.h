@@ -53,15 +53,10 @@ inline constexpr float kFullScale<Kel16u> = 65535;
 template <>
 inline constexpr float kFullScale<Kel16s> = 65535;
 
-// Floats cut to [0, most]; those that are no numbers stay.
-template <class D>
-HWY_INLINE hn::Vec<D> within(D d, float most, hn::Vec<D> v) {
-  return greaterElse(hn::Zero(d), lessElse(hn::Set(d, most), v));
-}
-
+// Floats cut to [0, 1]; what is no number stays.
 template <class D>
 HWY_INLINE hn::Vec<D> withinUnit(D d, hn::Vec<D> v) {
-  return within(d, 1, v);
+  return greaterElse(hn::Zero(d), lessElse(hn::Set(d, 1.f), v));
 }
 
 // f(dw, words) on unsigned lanes of in as signed ones of 32 bits; its results, saturated to lanes
@@ -136,10 +131,16 @@ HWY_INLINE auto onOneLane(const Op& op, const std::array<T, kIn>& in) {
   return out;
 }
 
+// A formula of few instructions says kShort = true: floats then are loaded and stored by themselves.
+template <class Formula, class = void>
+constexpr bool kIsShort = false;
+template <class Formula>
+constexpr bool kIsShort<Formula, std::void_t<decltype(Formula::kShort)>> = Formula::kShort;
+
 // An operation of core/pixels-inl.h on samples of type T from a formula in floats.
 template <class T, class Formula>
 struct RealPixels {
-  static constexpr bool kOnce = true;
+  static constexpr bool kOnce = !std::is_floating_point_v<T> || !kIsShort<Formula>;
   Formula formula;
 
   template <class D, std::size_t kIn>

@@ -24,6 +24,8 @@ constexpr float kZeroOfC2 = std::is_same_v<T, Kel32f> ? 0.5372549f : 137.f * (kF
 
 template <class T>
 struct RgbToYcc : Rounded {
+  static constexpr bool kShort = true;
+
   template <class D>
   HWY_INLINE Channels<D> operator()(D d, const Channels<D>& rgb) const {
     const auto c = [&](float v) KELI_LAMBDA { return hn::Set(d, v); };
@@ -35,6 +37,8 @@ struct RgbToYcc : Rounded {
 
 template <class T>
 struct YccToRgb : Rounded {
+  static constexpr bool kShort = true;
+
   template <class D>
   HWY_INLINE Channels<D> operator()(D d, const Channels<D>& ycc) const {
     const auto c = [&](float v) KELI_LAMBDA { return hn::Set(d, v); };
