@@ -131,7 +131,8 @@ HWY_INLINE auto onOneLane(const Op& op, const std::array<T, kIn>& in) {
   return out;
 }
 
-// A formula of few instructions says kShort = true: floats then are loaded and stored by themselves.
+// A formula of few instructions says kShort = true: floats then are loaded and stored by
+// themselves.
 template <class Formula, class = void>
 constexpr bool kIsShort = false;
 template <class Formula>

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 namespace keli::color {
@@ -27,6 +28,27 @@ struct SplitRow {
       whole[k] = static_cast<std::int16_t>(w);
       rest[k] = static_cast<std::int16_t>(f - w * unit);
     }
+  }
+
+  // The whole parts as signed bytes, that of the first channel lowest.
+  constexpr std::int32_t wholeBytes() const {
+    std::uint32_t bytes = 0;
+    for (std::size_t k = 0; k < 3; ++k)
+      bytes |= static_cast<std::uint32_t>(static_cast<std::uint8_t>(whole[k])) << 8 * k;
+    return static_cast<std::int32_t>(bytes);
+  }
+
+  // Whether every step keeps in its lane: sums in 32 bits, and what the shift leaves in 16, with
+  // the whole parts, which are signed bytes.
+  constexpr bool fits(int shift) const {
+    std::int64_t most = offset < 0 ? -std::int64_t{offset} : offset, wholes = 0;
+    bool small = true;
+    for (std::size_t k = 0; k < 3; ++k) {
+      most += 255 * std::int64_t{rest[k] < 0 ? -rest[k] : rest[k]};
+      wholes += 255 * (whole[k] < 0 ? -whole[k] : whole[k]);
+      small = small && whole[k] == static_cast<std::int8_t>(whole[k]);
+    }
+    return small && most < INT32_MAX && (most >> shift) + 1 + wholes <= INT16_MAX;
   }
 };
 

@@ -96,6 +96,7 @@ HWY_INLINE auto productRows(D d, const Channels<D>& in) {
     const Pairs<D> first = pairs(d, in[0], in[1]), second = pairs(d, in[2], hn::Zero(d));
     unrolled<kCount>([&](auto k) KELI_LAMBDA {
       constexpr color::SplitRow kRow(Matrix::kRows[k], kShift);
+      static_assert(kRow.fits(kShift), "a sum leaves its lane");
       out[k] = shiftedSums<kShift>(d, [&](auto p) KELI_LAMBDA {
         auto sum = addProductsOfPairs(dw, hn::Set(dw, kRow.offset), first[p],
                                       factorPair(d, kRow.rest[0], kRow.rest[1]));
@@ -130,6 +131,44 @@ HWY_INLINE auto productRows(D d, const Channels<D>& in) {
   return out;
 }
 
+// Pixels of four bytes as the even and the odd ones of each, in the halves of 32-bit lanes.
+template <class D>
+struct SplitFours {
+  hn::Vec<PairTag<D>> even, odd;
+};
+
+template <class D>
+HWY_INLINE SplitFours<D> splitFours(D d, hn::Vec<D> pixels) {
+  const PairTag<D> dp;
+  const hn::RebindToUnsigned<PairTag<D>> du;
+  const auto words = hn::BitCast(du, pixels);
+  return {hn::BitCast(dp, words & hn::Set(du, 0xFF)), hn::BitCast(dp, hn::ShiftRight<8>(words))};
+}
+
+// The rows of a matrix of three for pixels of four bytes: blocks of four pixels, row by row.
+template <class Matrix, class D>
+HWY_INLINE hn::Vec<D> productFours(D d, hn::Vec<D> pixels) {
+  const hn::Repartition<std::int32_t, D> dw;
+  const hn::Repartition<std::int8_t, D> di;
+  const PairTag<D> dp;
+  const SplitFours<D> split = splitFours(d, pixels);
+  hn::Vec<decltype(dw)> rows[3];
+  unrolled<3>([&](auto k) KELI_LAMBDA {
+    constexpr color::SplitRow kRow(Matrix::kRows[k], Matrix::kShift);
+    auto sum = addProductsOfPairs(dw, hn::Set(dw, kRow.offset), split.even,
+                                  factorPair(d, kRow.rest[0], kRow.rest[2]));
+    if constexpr (kRow.rest[1] != 0) {
+      sum = addProductsOfPairs(dw, sum, split.odd, factorPair(d, kRow.rest[1], 0));
+    }
+    rows[k] = hn::ShiftRight<Matrix::kShift>(sum);
+    constexpr std::int32_t kWhole = kRow.wholeBytes();
+    if constexpr (kWhole != 0) {
+      rows[k] = addProductsOfFours(dw, rows[k], pixels, hn::BitCast(di, hn::Set(dw, kWhole)));
+    }
+  });
+  return packSaturated(d, packSaturated(dp, rows[0], rows[1]), packSaturated(dp, rows[2], rows[2]));
+}
+
 // An operation of core/pixels-inl.h: bytes to as many channels as the matrix has rows.
 template <class Matrix>
 struct ProductPixels {
@@ -140,6 +179,13 @@ struct ProductPixels {
     const auto rows = productRows<Matrix>(d, in);
     Channels<D, kResults<decltype(rows)>> out;
     unrolled<kResults<decltype(rows)>>([&](auto k) KELI_LAMBDA { out[k] = bytesOf(d, rows[k]); });
+    return out;
+  }
+  static constexpr bool kFours = std::size(Matrix::kRows) == 3;
+  template <class D>
+  HWY_INLINE std::array<hn::Vec<D>, 4> fours(D d, const hn::Vec<D> (&in)[4]) const {
+    std::array<hn::Vec<D>, 4> out;
+    unrolled<4>([&](auto j) KELI_LAMBDA { out[j] = productFours<Matrix>(d, in[j]); });
     return out;
   }
   HWY_INLINE auto scalar(const std::array<Kel8u, 3>& in) const { return onOneLane(*this, in); }

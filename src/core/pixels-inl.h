@@ -3,9 +3,11 @@
 //
 // An operation (Op) has
 //   vector(d, in)    std::array of vectors, one for each source channel, to one for each
-//   destination's scalar(in)       the same on samples: the definition
+//                    destination's
+//   scalar(in)       the same on samples: the definition
 // and, if it is many instructions, kOnce = true: then it stands in the loop once, short rows go
-// through a copy of a vector's pixels, and nothing is stored around the caches.
+// through a copy of a vector's pixels. Such an operation on bytes may also have kFours = true and
+//   fours(d, in)     the same on the vectors of fours-inl.h
 // AC4 and AP4 give and take three channels; a destination's fourth is read and written back (AC4)
 // or not touched (AP4).
 #if defined(KELI_CORE_PIXELS_INL_H_) == defined(HWY_TARGET_TOGGLE)
@@ -20,6 +22,7 @@
 #include <hwy/cache_control.h>
 
 #include "core/band.h"
+#include "core/fours-inl.h"
 #include "core/interleave-inl.h"
 #include "core/planes.h"
 
@@ -31,8 +34,13 @@ constexpr bool kStandsOnce = false;
 template <class Op>
 constexpr bool kStandsOnce<Op, std::void_t<decltype(Op::kOnce)>> = Op::kOnce;
 
+template <class Op, class = void>
+constexpr bool kTakesFours = false;
+template <class Op>
+constexpr bool kTakesFours<Op, std::void_t<decltype(Op::kFours)>> = Op::kFours;
+
 // kMostBytes: of a vector; 64 pays where channels are put in order in the first-level cache. Stores
-// around the caches are of 32.
+// around the caches are of 32, but for operations that stand once.
 template <Layout kFrom, Layout kTo, class TS, class TD, std::size_t kMostBytes>
 struct Pixels {
   static constexpr std::size_t kIn = usedChannels(kFrom);
@@ -44,6 +52,7 @@ struct Pixels {
   static constexpr std::size_t kPlanesIn = isPlanar(kFrom) ? kIn : 1;
   static constexpr std::size_t kPlanesOut = isPlanar(kTo) ? kOut : 1;
   static constexpr bool kKeepsFourth = kTo == Layout::AC4;
+  static constexpr std::size_t kLong = 4096 / sizeof(TD);
 
   // Vectors of the pixels from x on.
   template <class D>
@@ -63,10 +72,11 @@ struct Pixels {
     return v;
   }
 
+  // phase: of the pixel's sample at dst, not 0 where a vector is shorter than a pixel.
   template <bool kStreams, class D>
-  static HWY_INLINE void put(D d, hn::Vec<D> v, TD* dst) {
+  static HWY_INLINE void put(D d, hn::Vec<D> v, TD* dst, [[maybe_unused]] std::size_t phase = 0) {
     if constexpr (kKeepsFourth) {
-      storeWhere(d, cycleMask<4, 3>(d, 0), v, dst);
+      storeWhere(d, cycleMask<4, 3>(d, phase), v, dst);
     } else if constexpr (kStreams) {
       hn::Stream(v, d, dst);
     } else {
@@ -100,7 +110,7 @@ struct Pixels {
           interleave4(d, in, out);
         }
         unrolled<kSamples>([&](auto j) KELI_LAMBDA {
-          put<kStreams>(d, out[j], dst[0] + kSamples * (x + c * kN) + j * kN);
+          put<kStreams>(d, out[j], dst[0] + kSamples * (x + c * kN) + j * kN, j * kN % kSamples);
         });
       });
     }
@@ -149,27 +159,103 @@ struct Pixels {
     }
   }
 
-  // Rows of at least a vector of pixels. Those of the last are loaded before any are stored.
+  // Pixels before the first at which every plane of the destination starts a cache line, or n.
+  static HWY_INLINE std::size_t pixelsToLine(Destination dst, std::size_t n) {
+    const std::size_t x = unitsToLine(dst[0], pixelSamples(kTo) * sizeof(TD), n);
+    for (std::size_t k = 1; k < kPlanesOut; ++k) {
+      if (unitsToLine(dst[k], sizeof(TD), n) != x) return n;
+    }
+    return x;
+  }
+
+  // Pixels of a long row's first vector of kN before those at which the destination's vectors are
+  // aligned: 1 to kN, or 0 where they cannot be. The second vector begins there and so meets pixels
+  // again, which must not have been overwritten.
+  template <std::size_t kN>
+  static HWY_INLINE std::size_t pixelsToVector(Source src, Destination dst, std::size_t n) {
+    if (n < kLong || static_cast<const void*>(src[0]) == dst[0]) return 0;
+    const std::size_t x = pixelsToLine(dst, n);
+    if (x >= n) return 0;
+    return x % kN == 0 ? kN : x % kN;
+  }
+
+  // Rows of at least a vector of pixels. Those of the last are loaded before any are stored. The
+  // operation is copied, as the compiler else takes stores to change it.
   template <class Op>
-  static HWY_NOINLINE void vectorsOnce(const Op& op, Source src, Destination dst, std::size_t n) {
+  static HWY_NOINLINE void vectorsOnce(const Op& given, bool streams, Source src, Destination dst,
+                                       std::size_t n) {
     using D = hn::CappedTag<TD, std::min<std::size_t>(HWY_MAX_BYTES, kMostBytes) / kWidest>;
     const D d;
     const hn::Rebind<TS, D> ds;
     constexpr std::size_t kN = hn::MaxLanes(D());
-    const std::size_t end = n - kN;
+    const Op op = given;
+    const std::size_t end = n - kN, aligned = pixelsToVector<kN>(src, dst, n);
+    const bool around = streams && aligned != 0 && !kKeepsFourth;
     const auto last = loadPixels(ds, src, end);
-    for (std::size_t x = 0;; x += kN) {
+    for (std::size_t x = 0;; x = x == 0 && aligned != 0 ? aligned : x + kN) {
       const std::size_t at = std::min(x, end);
       const Channels<D> one[1] = {op.vector(d, at < end ? loadPixels(ds, src, at) : last)};
-      storePixels<false>(d, one, dst, at);
+      if (around && at != 0 && at != end) {
+        storePixels<true>(d, one, dst, at);
+      } else {
+        storePixels<false>(d, one, dst, at);
+      }
       if (at == end) return;
     }
   }
 
   template <class Op>
-  static HWY_INLINE void rowOnce(const Op& op, Source src, Destination dst, std::size_t n) {
+  static constexpr bool kByFours =
+      kTakesFours<Op>&& kPermutesBytes&& kMostBytes == 64 && !isPlanar(kFrom) && !isPlanar(kTo);
+
+  template <bool kStreams, class D, std::size_t kVectors>
+  static HWY_INLINE void storeFours(D d, const std::array<hn::Vec<D>, kVectors>& v, TD* dst) {
+    unrolled<kVectors>([&](auto j) KELI_LAMBDA { put<kStreams>(d, v[j], dst + 64 * j); });
+  }
+
+  // The same by pixels of four bytes.
+  template <class Op>
+  static HWY_NOINLINE void foursOnce(const Op& given, bool streams, Source src, Destination dst,
+                                     std::size_t n) {
+    const hn::CappedTag<TD, 64> d;
+    using V = hn::Vec<decltype(d)>;
+    constexpr std::size_t kN = 64, kFromSamples = pixelSamples(kFrom);
+    const Op op = given;
+    const std::size_t end = n - kN, aligned = pixelsToVector<kN>(src, dst, n);
+    const bool around = streams && aligned != 0 && !kKeepsFourth;
+    V last[4];
+    loadFours<kFrom>(d, src[0] + kFromSamples * end, last);
+    for (std::size_t x = 0;; x = x == 0 && aligned != 0 ? aligned : x + kN) {
+      const std::size_t at = std::min(x, end);
+      V in[4];
+      if (at < end) {
+        loadFours<kFrom>(d, src[0] + kFromSamples * at, in);
+      } else {
+        unrolled<4>([&](auto j) KELI_LAMBDA { in[j] = last[j]; });
+      }
+      const auto out = orderFours<kTo>(d, op.fours(d, in));
+      TD* const to = dst[0] + pixelSamples(kTo) * at;
+      if (around && at != 0 && at != end) {
+        storeFours<true>(d, out, to);
+      } else {
+        storeFours<false>(d, out, to);
+      }
+      if (at == end) return;
+    }
+  }
+
+  template <class Op>
+  static HWY_INLINE void rowOnce(const Op& op, bool streams, Source src, Destination dst,
+                                 std::size_t n) {
     constexpr std::size_t kN = std::min<std::size_t>(HWY_MAX_BYTES, kMostBytes) / kWidest;
-    if (n >= kN) return vectorsOnce(op, src, dst, n);
+    const auto vectors = [&](Source from, Destination to, std::size_t width) KELI_LAMBDA {
+      if constexpr (kByFours<Op>) {
+        foursOnce(op, streams, from, to, width);
+      } else {
+        vectorsOnce(op, streams, from, to, width);
+      }
+    };
+    if (n >= kN) return vectors(src, dst, n);
     constexpr std::size_t kFromSamples = pixelSamples(kFrom), kToSamples = pixelSamples(kTo);
     TS in[kPlanesIn][kN * kFromSamples] = {};
     TD out[kPlanesOut][kN * kToSamples];
@@ -181,18 +267,9 @@ struct Pixels {
     }
     if (kKeepsFourth) std::memcpy(out[0], dst[0], n * sizeof(TD) * kToSamples);
     for (std::size_t k = 0; k < kPlanesOut; ++k) results[k] = out[k];
-    vectorsOnce(op, copies, results, kN);
+    vectors(copies, results, kN);
     for (std::size_t k = 0; k < kPlanesOut; ++k)
       std::memcpy(dst[k], out[k], n * sizeof(TD) * kToSamples);
-  }
-
-  // Pixels before the first at which every plane of the destination starts a cache line, or n.
-  static HWY_INLINE std::size_t pixelsToLine(Destination dst, std::size_t n) {
-    const std::size_t x = unitsToLine(dst[0], pixelSamples(kTo) * sizeof(TD), n);
-    for (std::size_t k = 1; k < kPlanesOut; ++k) {
-      if (unitsToLine(dst[k], sizeof(TD), n) != x) return n;
-    }
-    return x;
   }
 
   // As in map-inl.h, long rows are set on cache lines, and then stored around the caches if asked
@@ -201,11 +278,10 @@ struct Pixels {
   static HWY_INLINE void row(const Op& op, bool streams, Source src, Destination dst,
                              std::size_t n) {
     constexpr std::size_t kVectorBytes = std::min<std::size_t>(HWY_MAX_BYTES, kMostBytes);
-    constexpr std::size_t kLong = 4096 / sizeof(TD);
     if constexpr (kScalarTarget) {
       samples(op, src, dst, 0, n);
     } else if constexpr (kStandsOnce<Op>) {
-      rowOnce(op, src, dst, n);
+      rowOnce(op, streams, src, dst, n);
     } else {
       const std::size_t head = n < kLong ? n : pixelsToLine(dst, n);
       if (head != 0) vectors<false, kVectorBytes>(op, src, dst, head);
