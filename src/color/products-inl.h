@@ -131,34 +131,23 @@ HWY_INLINE auto productRows(D d, const Channels<D>& in) {
   return out;
 }
 
-// Pixels of four bytes as the even and the odd ones of each, in the halves of 32-bit lanes.
-template <class D>
-struct SplitFours {
-  hn::Vec<PairTag<D>> even, odd;
-};
-
-template <class D>
-HWY_INLINE SplitFours<D> splitFours(D d, hn::Vec<D> pixels) {
-  const PairTag<D> dp;
-  const hn::RebindToUnsigned<PairTag<D>> du;
-  const auto words = hn::BitCast(du, pixels);
-  return {hn::BitCast(dp, words & hn::Set(du, 0xFF)), hn::BitCast(dp, hn::ShiftRight<8>(words))};
-}
-
 // The rows of a matrix of three for pixels of four bytes: blocks of four pixels, row by row.
 template <class Matrix, class D>
 HWY_INLINE hn::Vec<D> productFours(D d, hn::Vec<D> pixels) {
   const hn::Repartition<std::int32_t, D> dw;
   const hn::Repartition<std::int8_t, D> di;
   const PairTag<D> dp;
-  const SplitFours<D> split = splitFours(d, pixels);
+  const hn::RebindToUnsigned<PairTag<D>> du;
+  const auto words = hn::BitCast(du, pixels);
+  const auto even = hn::BitCast(dp, words & hn::Set(du, 0xFF)),
+             odd = hn::BitCast(dp, hn::ShiftRight<8>(words));
   hn::Vec<decltype(dw)> rows[3];
   unrolled<3>([&](auto k) KELI_LAMBDA {
     constexpr color::SplitRow kRow(Matrix::kRows[k], Matrix::kShift);
-    auto sum = addProductsOfPairs(dw, hn::Set(dw, kRow.offset), split.even,
+    auto sum = addProductsOfPairs(dw, hn::Set(dw, kRow.offset), even,
                                   factorPair(d, kRow.rest[0], kRow.rest[2]));
     if constexpr (kRow.rest[1] != 0) {
-      sum = addProductsOfPairs(dw, sum, split.odd, factorPair(d, kRow.rest[1], 0));
+      sum = addProductsOfPairs(dw, sum, odd, factorPair(d, kRow.rest[1], 0));
     }
     rows[k] = hn::ShiftRight<Matrix::kShift>(sum);
     constexpr std::int32_t kWhole = kRow.wholeBytes();
