@@ -82,7 +82,9 @@ struct LuvToRgb : Rounded {
     unrolled<3>([&](auto k) KELI_LAMBDA {
       constexpr Weights kOf = weightsOf(k);
       const auto v = weighted(d, kOf, Channels<D>{p * perQ, y, level * perQ});
-      rgb[k] = hn::IfThenZeroElse(black, within(d, kFullScale<T>, v));
+      // What is no number stays, of floats; no integers give any.
+      const auto cut = greaterElse(hn::Zero(d), lessElse(c(kFullScale<T>), v));
+      rgb[k] = hn::IfThenZeroElse(black, cut);
     });
     return rgb;
   }

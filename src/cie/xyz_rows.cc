@@ -18,6 +18,8 @@ namespace keli::HWY_NAMESPACE {
 
 template <class T>
 struct RgbToXyz : Rounded {
+  static constexpr bool kShort = true;
+
   template <class D>
   HWY_INLINE Channels<D> operator()(D d, const Channels<D>& rgb) const {
     Channels<D> xyz;
@@ -29,6 +31,8 @@ struct RgbToXyz : Rounded {
 
 template <class T>
 struct XyzToRgb : Rounded {
+  static constexpr bool kShort = true;
+
   template <class D>
   HWY_INLINE Channels<D> operator()(D d, const Channels<D>& xyz) const {
     Channels<D> rgb;
@@ -40,15 +44,9 @@ struct XyzToRgb : Rounded {
   }
 };
 
-// Floats are bound by the memory: their loops are worth unrolling, and stores around the caches.
-template <template <class> class Formula, class T>
-struct XyzPixels : RealPixels<T, Formula<T>> {
-  static constexpr bool kOnce = !std::is_same_v<T, Kel32f>;
-};
-
 template <template <class> class Formula, class T>
 constexpr color::Kernels xyzKernels() {
-  return interleavedKernels<T, XyzPixels<Formula, T>, 64>();
+  return interleavedKernels<T, RealPixels<T, Formula<T>>, 64>();
 }
 
 const color::Kernels kToXyz16u = xyzKernels<RgbToXyz, Kel16u>();
