@@ -20,7 +20,7 @@ const AddPeers kPeers({
     {"keliXYZToRGB_32f_C3R", "OpenCV cvtColor", convert<cv::COLOR_XYZ2RGB>, 0.65},
     {"keliRGBToLUV_8u_C3R", "OpenCV cvtColor", convert<cv::COLOR_LRGB2Luv>, 1},
     {"keliRGBToLUV_32f_C3R", "OpenCV cvtColor", convert<cv::COLOR_LRGB2Luv>, 0.5},
-    {"keliLUVToRGB_8u_C3R", "OpenCV cvtColor", convert<cv::COLOR_Luv2LRGB>, 24},
+    {"keliLUVToRGB_8u_C3R", "OpenCV cvtColor", convert<cv::COLOR_Luv2LRGB>, 2},
     {"keliLUVToRGB_32f_C3R", "OpenCV cvtColor", convert<cv::COLOR_Luv2LRGB>, 0.1},
 });
 
