@@ -5,8 +5,8 @@
 // error of 5e-7. For the last unit one of degree two, whose error is 1.4e-4, is enough: rounded to
 // eight bits its root h has a cube that is exact in 24. So is y - h^3, and Halley's step
 //   h + h (y - h^3) / (2 h^3 + y),
-// below h / 400, adds a few thousandths of a unit from its own roundings, and 2/3 of the cube of
-// h's relative error: a third of a unit at most.
+// below h / 240, adds a hundredth of a unit from its own roundings, and 2/3 of the cube of h's
+// relative error, which is up to 1 / 247: with the last rounding less than 0.9 of a unit.
 #if defined(KELI_CIE_CUBE_ROOT_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_CIE_CUBE_ROOT_INL_H_
 #undef KELI_CIE_CUBE_ROOT_INL_H_

@@ -239,7 +239,7 @@ double worstRoot(std::uint32_t firstBits, std::uint32_t spacing, std::size_t n) 
 TEST(Luv, CubeRootsAreWithinOneUnit) {
   // Three octaves have all significands of the argument and of the root.
   for (std::uint32_t bits = 0x3F800000; bits < 0x41000000; bits += 0x40000)
-    ASSERT_LT(worstRoot(bits, 1, 0x40000), 1) << "from bits " << bits;
+    ASSERT_LT(worstRoot(bits, 1, 0x40000), 0.9) << "from bits " << bits;
   // From 0.01 to the largest float.
   EXPECT_LT(worstRoot(0x3C23D70A, 1009, (0x7F7FFFFF - 0x3C23D70A) / 1009 / 16 * 16), 1);
   EXPECT_LT(worstRoot(0x7F7FFFF0, 1, 16), 1);
