@@ -3829,6 +3829,152 @@ KELI_API KelStatus keliColorToGray_16s_AC4C1R(const Kel16s* pSrc, int srcStep, K
 KELI_API KelStatus keliColorToGray_32f_C3C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f weights[3]);
 KELI_API KelStatus keliColorToGray_32f_AC4C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f weights[3]);
 
+/* ==== CIE XYZ and LUV ==== */
+
+/**
+ * Converts RGB to CIE XYZ.
+ *
+ *     X = 0.412453 R + 0.35758 G + 0.180423 B; Y = 0.212671 R + 0.71516 G + 0.072169 B; Z = 0.019334 R + 0.119193 G + 0.950227 B
+ *
+ * CIE 1931 of linear RGB with the primaries of ITU-R BT.709 and the white D65, whose Y is full
+ * scale: 1 for 32f, 65535 for 16u; 16s is offset by 32768 into the range of 16u, and back.
+ * Every operation is in single precision, in the order written; integers are rounded to
+ * nearest, ties to even, and saturated, which cuts the Z of bright blues. 32f is not clamped.
+ * Results do not depend on the caller's rounding mode; those that are not numbers are the quiet
+ * NaN 0x7FC00000. AC4 leaves the fourth sample of every destination pixel as it was. Source and
+ * destination may be the same image.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliRGBToXYZ_16u_C3R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToXYZ_16u_AC4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToXYZ_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToXYZ_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToXYZ_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToXYZ_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts RGB to CIE XYZ, in fixed point.
+ *
+ *     X = (13515 R + 11717 G + 5912 B) >> 15; Y = (6969 R + 23434 G + 2365 B) >> 15; Z = min((634 R + 3906 G + 31137 B) >> 15, 255)
+ *
+ * CIE 1931 of linear RGB with the primaries of ITU-R BT.709 and the white D65, full scale 255.
+ * The formula holds for the first floor(width / 8) * 8 pixels of every row; the last width mod
+ * 8 have 16 bits of fraction: X = (27030 R + 23434 G + 11824 B) >> 16; Y = (13937 R + 46868 G +
+ * 4729 B) >> 16; Z = min((1267 R + 7811 G + 62274 B) >> 16, 255). So a colour may give results
+ * that differ by one between columns: white is 242, 255, 255 in the first ones and 242, 254,
+ * 255 in the last. Both are exact in integers and truncate; X and Y cannot exceed 255. AC4
+ * leaves the fourth sample of every destination pixel as it was. Source and destination may be
+ * the same image.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliRGBToXYZ_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToXYZ_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts CIE XYZ to RGB.
+ *
+ *     R = 3.240479 X - 1.53715 Y - 0.498535 Z; G = -0.969256 X + 1.875991 Y + 0.041556 Z; B = 0.055648 X - 0.204043 Y + 1.057311 Z
+ *
+ * The inverse of RGBToXYZ (CIE 1931, ITU-R BT.709 primaries, white D65), with the same full
+ * scales (8u: 255). Every operation is in single precision, in the order written; 32f is
+ * clamped into [0, 1], integers are rounded to nearest, ties to even, and saturated. Results do
+ * not depend on the caller's rounding mode; those that are not numbers are the quiet NaN
+ * 0x7FC00000. AC4 leaves the fourth sample of every destination pixel as it was. Source and
+ * destination may be the same image.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliXYZToRGB_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXYZToRGB_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXYZToRGB_16u_C3R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXYZToRGB_16u_AC4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXYZToRGB_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXYZToRGB_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXYZToRGB_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliXYZToRGB_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts RGB to CIE LUV.
+ *
+ *     L = 116 Y^(1/3) - 16 where Y > 0.01, else 903.3 Y; u = 13 L (4 X / D - 0.197839); v = 13 L (9 Y / D - 0.468342); D = X + 15 Y + 3 Z
+ *
+ * CIE 1976 with the white D65; X, Y and Z are those of RGBToXYZ for R, G and B over full scale
+ * (8u: 255, 16u: 65535, 16s offset by 32768 into the range of 16u). Where Y is 0, u and v are
+ * 0. The proportional part ends at 0.01, so there L falls by 0.04; the CIE's 0.008856 joins
+ * both parts.
+ *
+ * 32f holds L, u and v themselves: 0 to 100, -83.1 to 175.1 and -134.2 to 107.4 for RGB in [0,
+ * 1]. There they are within 1e-4 of the exact values, unless rounding takes Y across 0.01. The
+ * cube root is within one unit in the last place for all Y above 0.01. (A power with the
+ * exponent 0.33333334 in its place would differ by less than 5e-8 of its value for Y up to 1.)
+ * Where Y is infinite L is; what IEEE arithmetic calls no number is the quiet NaN 0x7FC00000.
+ *
+ * Integers hold s = 2.55 L, 3.6723163 s (4 X / D - 0.197839) + 96.90396 and 4.961832 s (9 Y / D
+ * - 0.468342) + 136.7939, for 16 bits all three times 257, 16s less 32768; rounded to nearest
+ * and saturated. For 8u that is the integer nearest to the exact value, unless this lies within
+ * 0.0002 of the middle between two; for 16 bits it is within 0.55 of the exact value.
+ *
+ * Results are the same for every processor and do not depend on the caller's rounding mode. AC4
+ * leaves the fourth sample of every destination pixel as it was. Source and destination may be
+ * the same image.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliRGBToLUV_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToLUV_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToLUV_16u_C3R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToLUV_16u_AC4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToLUV_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToLUV_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToLUV_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToLUV_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts CIE LUV to RGB.
+ *
+ *     Y = ((L + 16) / 116)^3; X = 2.25 Y u' / v'; Z = 3 Y / v' - 5 Y - X / 3; u' = u / (13 L) + 0.197839; v' = v / (13 L) + 0.468342
+ *
+ * CIE 1976 with the white D65; R, G and B are those that XYZToRGB gives for X, Y and Z, clamped
+ * into [0, 1]. Integers hold L, u and v as RGBToLUV does, and R, G and B over their full scale,
+ * rounded to nearest. Where L is below 9.033 the pixel is black, whatever u and v: the
+ * proportional part of RGBToLUV is not inverted; where v' is 0, which no colour has, it is
+ * black as well.
+ *
+ * For the L, u and v of RGB in [0, 1], 32f is within 5e-6 of the exact values and 16 bits
+ * within 0.65. For 8u it is the nearest integer for all L, u and v, unless the exact value lies
+ * within 0.001 of the middle between two. A component of 32f that IEEE arithmetic calls no
+ * number, as of infinite L, is the quiet NaN 0x7FC00000. Results are the same for every
+ * processor and do not depend on the caller's rounding mode. AC4 leaves the fourth sample of
+ * every destination pixel as it was. Source and destination may be the same image.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliLUVToRGB_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLUVToRGB_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLUVToRGB_16u_C3R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLUVToRGB_16u_AC4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLUVToRGB_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLUVToRGB_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLUVToRGB_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliLUVToRGB_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
 #ifdef __cplusplus
 }
 #endif
