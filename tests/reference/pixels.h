@@ -15,30 +15,33 @@ using Pixel = std::array<T, 3>;
 template <class T>
 using PixelDefinition = std::function<Pixel<T>(const Pixel<T>&)>;
 
-// Every sample of f's results, exactly, in calls as checkCalls makes them. definition(pixel,
-// column, width) where the place matters.
+// Every sample of f's results, exactly, in calls as checkCalls makes them, whose samples
+// prepare(call, i) may change. definition(pixel, column, width) where the place matters.
+template <class T, class Definition, class Prepare>
+void checkPixels(const registry::Function& f, const Definition& definition,
+                 const Prepare& prepare) {
+  checkCalls(f, prepare, [&](const TestCall& call, KeliSize size) {
+    const ImageView src(call, call.find(registry::Role::kSource)), dst(call, call.written());
+    for (int y = 0; y < size.height; ++y) {
+      for (int x = 0; x < size.width; ++x) {
+        Pixel<T> in, out;
+        for (int k = 0; k < 3; ++k) in[static_cast<std::size_t>(k)] = src.template get<T>(x, y, k);
+        if constexpr (std::is_invocable_v<Definition, Pixel<T>, int, int>) {
+          out = definition(in, x, size.width);
+        } else {
+          out = definition(in);
+        }
+        // AP4C4 and AC4P4 leave a fourth channel that their layouts count.
+        for (int k = 0; k < std::min(dst.channels(), 3); ++k)
+          dst.template set<T>(x, y, k, out[static_cast<std::size_t>(k)]);
+      }
+    }
+  });
+}
+
 template <class T, class Definition>
 void checkPixels(const registry::Function& f, const Definition& definition) {
-  checkCalls(
-      f, [](TestCall&, std::size_t) {},
-      [&](const TestCall& call, KeliSize size) {
-        const ImageView src(call, call.find(registry::Role::kSource)), dst(call, call.written());
-        for (int y = 0; y < size.height; ++y) {
-          for (int x = 0; x < size.width; ++x) {
-            Pixel<T> in, out;
-            for (int k = 0; k < 3; ++k)
-              in[static_cast<std::size_t>(k)] = src.template get<T>(x, y, k);
-            if constexpr (std::is_invocable_v<Definition, Pixel<T>, int, int>) {
-              out = definition(in, x, size.width);
-            } else {
-              out = definition(in);
-            }
-            // AP4C4 and AC4P4 leave a fourth channel that their layouts count.
-            for (int k = 0; k < std::min(dst.channels(), 3); ++k)
-              dst.template set<T>(x, y, k, out[static_cast<std::size_t>(k)]);
-          }
-        }
-      });
+  checkPixels<T>(f, definition, [](TestCall&, std::size_t) {});
 }
 
 // All members of an operation of T.
