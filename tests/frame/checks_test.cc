@@ -158,7 +158,7 @@ bool spreads(const TestCall& call, const std::vector<Value>& values) {
 
 bool grayLevelsFail(const TestCall& call, const std::vector<Value>& values) {
   const std::int64_t levels = valueOf(call, values, Role::kGrayLevels).i;
-  const bool bytes = call.function.arguments[call.written()].type == Type::k8u;
+  const bool bytes = call.function.arguments[call.written()].type == registry::Type::k8u;
   return spreads(call, values) && (levels < 2 || levels > (bytes ? 256 : 65536));
 }
 
