@@ -19,29 +19,22 @@ constexpr float kHuePerDegree = std::is_same_v<T, Kel8u> ? 0.7083333f : 182.0416
 template <class T>
 constexpr float kDegreesPerHue = std::is_same_v<T, Kel8u> ? 1.4117647f : 360.f / 65535;
 
-// In degrees.
-template <class D>
-HWY_INLINE hn::Vec<D> degrees(D d, hn::Vec<D> difference, hn::Vec<D> delta, hn::Vec<D> middle) {
-  return fromZeroOn(d, hn::Set(d, 60.f) * difference / delta + middle, 360);
-}
-
 struct RealRgbToHls {
   template <class D>
   HWY_INLINE Channels<D> operator()(D d, const Channels<D>& rgb) const {
     const auto c = [&](float v) KELI_LAMBDA { return hn::Set(d, v); };
-    const Hue<D> hue = hueOf<Tie::kFirst, 120>(d, rgb);
+    const Hue<D> hue = hueOf<Tie::kFirst, 120, false>(d, rgb);
     const auto sum = hue.most + hue.least, delta = hue.most - hue.least;
     const auto lightness = sum * c(0.5f);
     const auto colored = hn::Gt(delta, c(std::numeric_limits<float>::epsilon()));
     const auto divisor = hn::IfThenElse(hn::Le(lightness, c(0.5f)), sum, c(2) - sum);
-    const auto angle = degrees(d, hue.ahead - hue.behind, delta, hue.middle) / c(360);
-    return {hn::IfThenElseZero(colored, angle), lightness,
+    const auto angle = c(60) * (hue.ahead - hue.behind) / delta + hue.middle;
+    return {hn::IfThenElseZero(colored, fromZeroOn(d, angle, 360) / c(360)), lightness,
             hn::IfThenElseZero(colored, delta / divisor)};
   }
 };
 
-// An operation on pixels of integers. The two divisors are at least 1, and what they divide is 0
-// where they had to be made so.
+// An operation on pixels of integers.
 template <class T>
 struct WholeRgbToHls {
   static constexpr bool kOnce = true;
@@ -51,36 +44,39 @@ struct WholeRgbToHls {
     using DU = hn::RebindToUnsigned<D>;
     const DU du;
     const auto sign = hn::Set(du, kSign<T>);
-    Channels<DU> unsignedRgb;
-    unrolled<3>([&](auto k) KELI_LAMBDA { unsignedRgb[k] = hn::BitCast(du, rgb[k]) ^ sign; });
-    const Hue<DU> hue = hueOf<Tie::kFirst, 120>(du, unsignedRgb);
-    const Channels<DU, 5> parts = {hue.most, hue.least, hue.ahead, hue.behind, hue.middle};
-    const Channels<DU> hls = mapWords(du, du, parts, ofParts);
-    Channels<D> out;
-    unrolled<3>([&](auto k) KELI_LAMBDA { out[k] = hn::BitCast(d, hls[k] ^ sign); });
-    return out;
+    Channels<DU> samples;
+    unrolled<3>([&](auto k) KELI_LAMBDA { samples[k] = hn::BitCast(du, rgb[k]) ^ sign; });
+    const Hue<DU> hue = hueOf<Tie::kFirst, 60, true>(du, samples);
+    const auto hs = hueAndSaturation<30>(du, hue, roomOf(du, hue), OfHalfDegrees());
+    const auto odd = (hue.most ^ hue.least) & hn::Set(du, 1);
+    const auto lightness = hn::AverageRound(hue.most, hue.least) - odd;
+    return {hn::BitCast(d, hs[0] ^ sign), hn::BitCast(d, lightness ^ sign),
+            hn::BitCast(d, hs[1] ^ sign)};
   }
-
-  struct OfParts {
-    template <class DW>
-    HWY_INLINE Channels<DW> operator()(DW dw, const Channels<DW, 5>& parts) const {
-      const hn::RebindToFloat<DW> d;
-      const auto real = [&](hn::Vec<DW> v) KELI_LAMBDA { return hn::ConvertTo(d, v); };
-      const auto one = hn::Set(dw, 1);
-      const auto sum = parts[0] + parts[1], delta = parts[0] - parts[1];
-      const auto toEnds = hn::Min(sum, hn::Set(dw, static_cast<int>(2 * kFullScale<T>)) - sum);
-      const auto saturation = hn::Set(d, kFullScale<T>) * real(delta) / real(hn::Max(toEnds, one));
-      const auto angle =
-          degrees(d, real(parts[2] - parts[3]), real(hn::Max(delta, one)), real(parts[4]));
-      return {truncateToInt(dw, hn::Set(d, kHuePerDegree<T>) * angle), hn::ShiftRight<1>(sum),
-              truncateToInt(dw, saturation)};
-    }
-  };
-  static constexpr OfParts ofParts = {};
-
   HWY_INLINE std::array<T, 3> scalar(const std::array<T, 3>& in) const {
     return onOneLane(*this, in);
   }
+
+ private:
+  // The greatest difference that a color of this lightness can have: of the sum of its extremes and
+  // that of their distances from full scale, the one that is no more than full scale.
+  template <class D>
+  static HWY_INLINE hn::Vec<D> roomOf(D d, const Hue<D>& hue) {
+    const auto full = hn::Set(d, std::numeric_limits<hn::TFromD<D>>::max());
+    return hn::Min(hn::SaturatedAdd(hue.most, hue.least),
+                   hn::SaturatedAdd(full - hue.most, full - hue.least));
+  }
+
+  // Halves of degrees fit 8 bits; every step gives exactly half of what it gives in degrees.
+  struct OfHalfDegrees {
+    template <class D>
+    HWY_INLINE Channels<hn::RebindToSigned<D>, 2> operator()(D d, const Reals<D>& of) const {
+      const hn::RebindToSigned<D> di;
+      const auto angle = of.difference / of.delta + of.middle;
+      return {truncateToInt(di, hn::Set(d, 2 * kHuePerDegree<T>) * angle),
+              truncateToInt(di, hn::Set(d, kFullScale<T>) * of.delta / of.whole)};
+    }
+  };
 };
 
 // The two values between which the components of a color lie.

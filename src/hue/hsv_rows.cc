@@ -16,40 +16,30 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
-// Hue and saturation of a color's value, greatest difference, difference of the other components
-// and middle of its third. The divisors are at least 1, and what they divide is 0 where they had to
-// be made so.
-template <class T>
-struct HueAndSaturation {
-  template <class DW>
-  HWY_INLINE Channels<DW, 2> operator()(DW dw, const Channels<DW, 5>& parts) const {
-    const hn::RebindToFloat<DW> d;
-    const auto c = [&](float v) KELI_LAMBDA { return hn::Set(d, v); };
-    const auto real = [&](hn::Vec<DW> v) KELI_LAMBDA { return hn::ConvertTo(d, v); };
-    const auto value = real(parts[0]), delta = real(parts[1]);
-    const auto saturation = c(kFullScale<T>) * delta / hn::Max(value, c(1));
-    const auto sixths = real(parts[2] - parts[3]) / hn::Max(delta, c(1)) + real(parts[4]);
-    const auto hue = fromZeroOn(d, c(kFullScale<T> / 6) * sixths, kFullScale<T>);
-    return {roundToInt(dw, hue), roundToInt(dw, saturation)};
-  }
-};
-
 template <class T>
 struct RgbToHsv {
   static constexpr bool kOnce = true;
 
   template <class D>
   HWY_INLINE Channels<D> vector(D d, const Channels<D>& rgb) const {
-    const Hue<D> hue = hueOf<Tie::kLast, 2>(d, rgb);
-    const auto delta = hue.most - hue.least;
-    const auto middle = hn::IfThenZeroElse(hn::Eq(delta, hn::Zero(d)), hue.middle);
-    const Channels<D, 5> parts = {hue.most, delta, hue.ahead, hue.behind, middle};
-    const Channels<D, 2> hs = mapWords(d, d, parts, HueAndSaturation<T>());
+    const Hue<D> hue = hueOf<Tie::kLast, 2, false>(d, rgb);
+    const auto hs = hueAndSaturation<1>(d, hue, hue.most, OfSixths());
     return {hs[0], hs[1], hue.most};
   }
   HWY_INLINE std::array<T, 3> scalar(const std::array<T, 3>& in) const {
     return onOneLane(*this, in);
   }
+
+ private:
+  struct OfSixths {
+    template <class D>
+    HWY_INLINE Channels<hn::RebindToSigned<D>, 2> operator()(D d, const Reals<D>& of) const {
+      const hn::RebindToSigned<D> di;
+      const auto sixths = of.difference / of.delta + of.middle;
+      const auto hue = fromZeroOn(d, hn::Set(d, kFullScale<T> / 6) * sixths, kFullScale<T>);
+      return {roundToInt(di, hue), roundToInt(di, hn::Set(d, kFullScale<T>) * of.delta / of.whole)};
+    }
+  };
 };
 
 template <class T>

@@ -13,6 +13,7 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
+// Of a color, in lanes of samples or wider ones.
 template <class D>
 struct Hue {
   hn::Vec<D> most, least;
@@ -23,8 +24,9 @@ struct Hue {
 // Which of several components that are the greatest is taken to be it.
 enum class Tie { kFirst, kLast };
 
-// In lanes of samples, unsigned or floats.
-template <Tie kTie, int kThird, class D>
+// In lanes of samples, unsigned or floats. kUnwound: the hues of the third around 0 that lie before
+// it have their middle at 3 kThird, so that none is below 0.
+template <Tie kTie, int kThird, bool kUnwound, class D>
 HWY_INLINE Hue<D> hueOf(D d, const Channels<D>& rgb) {
   const auto red = rgb[0], green = rgb[1], blue = rgb[2];
   const auto second = hn::Set(d, kThird), third = hn::Set(d, 2 * kThird);
@@ -36,14 +38,106 @@ HWY_INLINE Hue<D> hueOf(D d, const Channels<D>& rgb) {
     const auto isRed = hn::Eq(red, hue.most);
     hue.ahead = hn::IfThenElse(isRed, green, hn::IfThenElse(isGreen, blue, red));
     hue.behind = hn::IfThenElse(isRed, blue, hn::IfThenElse(isGreen, red, green));
-    hue.middle = hn::IfThenZeroElse(isRed, hn::IfThenElse(isGreen, second, third));
+    auto first = hn::Zero(d);
+    if constexpr (kUnwound)
+      first = hn::IfThenZeroElse(hn::Eq(hn::Max(green, blue), green), hn::Set(d, 3 * kThird));
+    hue.middle = hn::IfThenElse(isRed, first, hn::IfThenElse(isGreen, second, third));
   } else {
+    static_assert(!kUnwound);
     const auto isBlue = hn::Eq(blue, hue.most);
     hue.ahead = hn::IfThenElse(isBlue, red, hn::IfThenElse(isGreen, blue, green));
     hue.behind = hn::IfThenElse(isBlue, green, hn::IfThenElse(isGreen, red, blue));
     hue.middle = hn::IfThenElse(isBlue, third, hn::IfThenElseZero(isGreen, second));
   }
   return hue;
+}
+
+// What integer formulas of hue and saturation are made of, as floats: the greatest difference of
+// components, what saturation divides it by, kTimes the difference of the two other components, and
+// the middle of the third.
+template <class D>
+struct Reals {
+  hn::Vec<D> delta, whole, difference, middle;
+};
+
+// The same in lanes of samples; the greatest difference stands in place of the extremes.
+template <class D>
+struct Parts {
+  hn::Vec<D> delta, whole, ahead, behind, middle;
+};
+
+// f(d, reals) on floats of unsigned lanes; the two results are integers of the lanes' type.
+// kBytes: no lane is above 255.
+template <int kTimes, bool kBytes, class D, class F>
+HWY_INLINE Channels<D, 2> mapParts(D d, const Parts<D>& parts, const F& f) {
+  if constexpr (!kTwoHalves<D>) {
+    using DI = hn::Rebind<std::int32_t, D>;
+    using DF = hn::RebindToFloat<DI>;
+    const DF df;
+    const auto real = [&](hn::Vec<D> v)
+                          KELI_LAMBDA { return hn::ConvertTo(df, hn::PromoteTo(DI(), v)); };
+    const auto difference = hn::Set(df, kTimes) * (real(parts.ahead) - real(parts.behind));
+    const auto results =
+        f(df, Reals<DF>{real(parts.delta), real(parts.whole), difference, real(parts.middle)});
+    return {hn::DemoteTo(d, results[0]), hn::DemoteTo(d, results[1])};
+  } else if constexpr (sizeof(hn::TFromD<D>) == 1) {
+    using DW = WideTag<D>;
+    const Wide<D> delta = widen(d, parts.delta), whole = widen(d, parts.whole),
+                  ahead = widen(d, parts.ahead), behind = widen(d, parts.behind),
+                  middle = widen(d, parts.middle);
+    const auto low = mapParts<kTimes, true>(
+        DW(), Parts<DW>{delta.lo, whole.lo, ahead.lo, behind.lo, middle.lo}, f);
+    const auto high = mapParts<kTimes, true>(
+        DW(), Parts<DW>{delta.hi, whole.hi, ahead.hi, behind.hi, middle.hi}, f);
+    return {narrow(d, Wide<D>{low[0], high[0]}), narrow(d, Wide<D>{low[1], high[1]})};
+  } else {
+    using DW = WideTag<D>;
+    using DI = hn::RebindToSigned<DW>;
+    using DF = hn::RebindToFloat<DI>;
+    const DI di;
+    const auto real = [&](hn::Vec<DW> v)
+                          KELI_LAMBDA { return hn::ConvertTo(DF(), hn::BitCast(di, v)); };
+    const Wide<D> delta = widen(d, parts.delta), whole = widen(d, parts.whole),
+                  middle = widen(d, parts.middle);
+    hn::Vec<DF> lowDifference, highDifference;
+    if constexpr (kBytes) {
+      const hn::RebindToSigned<D> dn;
+      const auto factors = hn::BitCast(dn, hn::Set(di, (-kTimes << 16) | kTimes));
+      const Zipped<D> pairs = zip(d, parts.ahead, parts.behind);
+      const auto of = [&](hn::Vec<D> v) KELI_LAMBDA {
+        return hn::ConvertTo(DF(), multiplyAddPairs(di, hn::BitCast(dn, v), factors));
+      };
+      lowDifference = of(pairs.lo);
+      highDifference = of(pairs.hi);
+    } else {
+      const Wide<D> ahead = widen(d, parts.ahead), behind = widen(d, parts.behind);
+      const auto times = hn::Set(DF(), kTimes);
+      lowDifference = times * (real(ahead.lo) - real(behind.lo));
+      highDifference = times * (real(ahead.hi) - real(behind.hi));
+    }
+    const auto low =
+        f(DF(), Reals<DF>{real(delta.lo), real(whole.lo), lowDifference, real(middle.lo)});
+    const auto high =
+        f(DF(), Reals<DF>{real(delta.hi), real(whole.hi), highDifference, real(middle.hi)});
+    const auto both = [&](auto k) KELI_LAMBDA {
+      return narrow(d, Wide<D>{hn::BitCast(DW(), low[k]), hn::BitCast(DW(), high[k])});
+    };
+    return {both(std::integral_constant<std::size_t, 0>()),
+            both(std::integral_constant<std::size_t, 1>())};
+  }
+}
+
+// Hue and saturation of a color by f of its Reals, of which delta and whole are at least 1; of gray
+// both are 0.
+template <int kTimes, class D, class F>
+HWY_INLINE Channels<D, 2> hueAndSaturation(D d, const Hue<D>& hue, hn::Vec<D> whole, const F& f) {
+  const auto one = hn::Set(d, 1);
+  const auto delta = hue.most - hue.least;
+  const auto gray = hn::Eq(delta, hn::Zero(d));
+  const Parts<D> parts = {hn::Max(delta, one), hn::Max(whole, one), hue.ahead, hue.behind,
+                          hue.middle};
+  const Channels<D, 2> hs = mapParts<kTimes, false>(d, parts, f);
+  return {hn::IfThenZeroElse(gray, hs[0]), hn::IfThenZeroElse(gray, hs[1])};
 }
 
 // v + turn where v is below 0.
