@@ -66,9 +66,52 @@ struct Parts {
   hn::Vec<D> delta, whole, ahead, behind, middle;
 };
 
+// Where the bytes of a vector come from when they are widened twice, in each of its quarters.
+template <std::size_t kBytes>
+struct Quarters {
+  using Table = std::array<std::array<std::uint8_t, kBytes>, 4>;
+  static constexpr Table make() {
+    Table t{};
+    for (std::size_t q = 0; q < 4; ++q) {
+      for (std::size_t i = 0; i < kBytes; ++i)
+        t[q][i] = static_cast<std::uint8_t>(i / 16 * 16 + q * 4 + i % 16 / 4);
+    }
+    return t;
+  }
+  static constexpr Table kFrom = make();
+};
+
+// The words of a quarter of a vector's bytes, a quarter of each 16 that follow one another.
+template <std::size_t kQuarter, class D>
+HWY_INLINE hn::Vec<WideTag<WideTag<D>>> quarterOf(D d, hn::Vec<D> v) {
+  const WideTag<D> dh;
+  const WideTag<WideTag<D>> dw;
+  if constexpr (kPermutesBytes && hn::MaxLanes(D()) == 64) {
+    const auto from = hn::LoadU(d, Quarters<64>::kFrom[kQuarter].data());
+    const auto lowest = hn::MaskFromVec(hn::BitCast(d, hn::Set(dw, 0xFFu)));
+    return hn::BitCast(dw, hn::IfThenElseZero(lowest, permuteBytes(d, v, from)));
+  } else {
+    const Wide<D> halves = widen(d, v);
+    const Wide<WideTag<D>> quarters = widen(dh, kQuarter < 2 ? halves.lo : halves.hi);
+    return kQuarter % 2 == 0 ? quarters.lo : quarters.hi;
+  }
+}
+
+// kTimes (a - b), of a quarter of the bytes.
+template <int kTimes, std::size_t kQuarter, class D>
+HWY_INLINE auto differenceOf(D d, hn::Vec<D> a, hn::Vec<D> b) {
+  const WideTag<D> dh;
+  const hn::RebindToSigned<WideTag<WideTag<D>>> di;
+  const hn::RebindToSigned<WideTag<D>> dn;
+  const Wide<D> wideA = widen(d, a), wideB = widen(d, b);
+  const auto pairs =
+      zip(dh, kQuarter < 2 ? wideA.lo : wideA.hi, kQuarter < 2 ? wideB.lo : wideB.hi);
+  const auto factors = hn::BitCast(dn, hn::Set(di, (-kTimes << 16) | kTimes));
+  return multiplyAddPairs(di, hn::BitCast(dn, kQuarter % 2 == 0 ? pairs.lo : pairs.hi), factors);
+}
+
 // f(d, reals) on floats of unsigned lanes; the two results are integers of the lanes' type.
-// kBytes: no lane is above 255.
-template <int kTimes, bool kBytes, class D, class F>
+template <int kTimes, class D, class F>
 HWY_INLINE Channels<D, 2> mapParts(D d, const Parts<D>& parts, const F& f) {
   if constexpr (!kTwoHalves<D>) {
     using DI = hn::Rebind<std::int32_t, D>;
@@ -81,49 +124,49 @@ HWY_INLINE Channels<D, 2> mapParts(D d, const Parts<D>& parts, const F& f) {
         f(df, Reals<DF>{real(parts.delta), real(parts.whole), difference, real(parts.middle)});
     return {hn::DemoteTo(d, results[0]), hn::DemoteTo(d, results[1])};
   } else if constexpr (sizeof(hn::TFromD<D>) == 1) {
-    using DW = WideTag<D>;
-    const Wide<D> delta = widen(d, parts.delta), whole = widen(d, parts.whole),
-                  ahead = widen(d, parts.ahead), behind = widen(d, parts.behind),
-                  middle = widen(d, parts.middle);
-    const auto low = mapParts<kTimes, true>(
-        DW(), Parts<DW>{delta.lo, whole.lo, ahead.lo, behind.lo, middle.lo}, f);
-    const auto high = mapParts<kTimes, true>(
-        DW(), Parts<DW>{delta.hi, whole.hi, ahead.hi, behind.hi, middle.hi}, f);
-    return {narrow(d, Wide<D>{low[0], high[0]}), narrow(d, Wide<D>{low[1], high[1]})};
+    using DH = WideTag<D>;
+    using DW = WideTag<DH>;
+    using DI = hn::RebindToSigned<DW>;
+    using DF = hn::RebindToFloat<DI>;
+    const DH dh;
+    Channels<DI, 2> of[4];
+    unrolled<4>([&](auto q) KELI_LAMBDA {
+      const auto real = [&](hn::Vec<D> v) KELI_LAMBDA {
+        return hn::ConvertTo(DF(), hn::BitCast(DI(), quarterOf<q>(d, v)));
+      };
+      const auto difference =
+          hn::ConvertTo(DF(), differenceOf<kTimes, q>(d, parts.ahead, parts.behind));
+      of[q] =
+          f(DF(), Reals<DF>{real(parts.delta), real(parts.whole), difference, real(parts.middle)});
+    });
+    Channels<D, 2> out;
+    unrolled<2>([&](auto k) KELI_LAMBDA {
+      const auto half = [&](std::size_t q) KELI_LAMBDA {
+        return narrow(dh, Wide<DH>{hn::BitCast(DW(), of[q][k]), hn::BitCast(DW(), of[q + 1][k])});
+      };
+      out[k] = narrow(d, Wide<D>{half(0), half(2)});
+    });
+    return out;
   } else {
     using DW = WideTag<D>;
     using DI = hn::RebindToSigned<DW>;
     using DF = hn::RebindToFloat<DI>;
-    const DI di;
-    const auto real = [&](hn::Vec<DW> v)
-                          KELI_LAMBDA { return hn::ConvertTo(DF(), hn::BitCast(di, v)); };
     const Wide<D> delta = widen(d, parts.delta), whole = widen(d, parts.whole),
+                  ahead = widen(d, parts.ahead), behind = widen(d, parts.behind),
                   middle = widen(d, parts.middle);
-    hn::Vec<DF> lowDifference, highDifference;
-    if constexpr (kBytes) {
-      const hn::RebindToSigned<D> dn;
-      const auto factors = hn::BitCast(dn, hn::Set(di, (-kTimes << 16) | kTimes));
-      const Zipped<D> pairs = zip(d, parts.ahead, parts.behind);
-      const auto of = [&](hn::Vec<D> v) KELI_LAMBDA {
-        return hn::ConvertTo(DF(), multiplyAddPairs(di, hn::BitCast(dn, v), factors));
-      };
-      lowDifference = of(pairs.lo);
-      highDifference = of(pairs.hi);
-    } else {
-      const Wide<D> ahead = widen(d, parts.ahead), behind = widen(d, parts.behind);
-      const auto times = hn::Set(DF(), kTimes);
-      lowDifference = times * (real(ahead.lo) - real(behind.lo));
-      highDifference = times * (real(ahead.hi) - real(behind.hi));
-    }
-    const auto low =
-        f(DF(), Reals<DF>{real(delta.lo), real(whole.lo), lowDifference, real(middle.lo)});
-    const auto high =
-        f(DF(), Reals<DF>{real(delta.hi), real(whole.hi), highDifference, real(middle.hi)});
-    const auto both = [&](auto k) KELI_LAMBDA {
-      return narrow(d, Wide<D>{hn::BitCast(DW(), low[k]), hn::BitCast(DW(), high[k])});
+    const auto half = [&](auto part) KELI_LAMBDA {
+      const auto real = [&](const Wide<D>& w)
+                            KELI_LAMBDA { return hn::ConvertTo(DF(), hn::BitCast(DI(), part(w))); };
+      const auto difference = hn::Set(DF(), kTimes) * (real(ahead) - real(behind));
+      return f(DF(), Reals<DF>{real(delta), real(whole), difference, real(middle)});
     };
-    return {both(std::integral_constant<std::size_t, 0>()),
-            both(std::integral_constant<std::size_t, 1>())};
+    const auto low = half([](const Wide<D>& w) KELI_LAMBDA { return w.lo; });
+    const auto high = half([](const Wide<D>& w) KELI_LAMBDA { return w.hi; });
+    Channels<D, 2> out;
+    unrolled<2>([&](auto k) KELI_LAMBDA {
+      out[k] = narrow(d, Wide<D>{hn::BitCast(DW(), low[k]), hn::BitCast(DW(), high[k])});
+    });
+    return out;
   }
 }
 
@@ -136,7 +179,7 @@ HWY_INLINE Channels<D, 2> hueAndSaturation(D d, const Hue<D>& hue, hn::Vec<D> wh
   const auto gray = hn::Eq(delta, hn::Zero(d));
   const Parts<D> parts = {hn::Max(delta, one), hn::Max(whole, one), hue.ahead, hue.behind,
                           hue.middle};
-  const Channels<D, 2> hs = mapParts<kTimes, false>(d, parts, f);
+  const Channels<D, 2> hs = mapParts<kTimes>(d, parts, f);
   return {hn::IfThenZeroElse(gray, hs[0]), hn::IfThenZeroElse(gray, hs[1])};
 }
 
