@@ -137,9 +137,13 @@ struct WholeHlsToRgb : Rounded {
   }
 };
 
+// Floats have loops of their own for rows of all lengths.
+struct FloatRgbToHls : RealPixels<Kel32f, RealRgbToHls> {
+  static constexpr bool kOnce = false;
+};
+
 template <class T>
-using RgbToHls =
-    std::conditional_t<std::is_same_v<T, Kel32f>, RealPixels<T, RealRgbToHls>, WholeRgbToHls<T>>;
+using RgbToHls = std::conditional_t<std::is_same_v<T, Kel32f>, FloatRgbToHls, WholeRgbToHls<T>>;
 template <class T>
 using HlsToRgb =
     RealPixels<T, std::conditional_t<std::is_same_v<T, Kel32f>, RealHlsToRgb, WholeHlsToRgb<T>>>;

@@ -14,10 +14,26 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
+// Never stored around the caches: that would take vectors of 32 bytes, in which the formula is
+// slower than memory.
+template <Layout kLayout, std::size_t kMostBytes>
+void ownFloatsToHls(const PlanesBand& b) {
+  PlanesBand cached = b;
+  cached.streams = false;
+  mapPixels<kLayout, kLayout, Kel32f, Kel32f, kMostBytes>(cached, RgbToHls<Kel32f>());
+}
+
+constexpr color::Kernels floatsToHls() {
+  color::Kernels kernels = {};
+  kernels.c3 = ownFloatsToHls<Layout::C3, 64>;
+  kernels.ac4 = ownFloatsToHls<Layout::AC4, 32>;
+  return kernels;
+}
+
 const color::Kernels kToHls8u = interleavedKernels<Kel8u, RgbToHls<Kel8u>, 64>();
 const color::Kernels kToHls16u = interleavedKernels<Kel16u, RgbToHls<Kel16u>, 64>();
 const color::Kernels kToHls16s = interleavedKernels<Kel16s, RgbToHls<Kel16s>, 64>();
-const color::Kernels kToHls32f = interleavedKernels<Kel32f, RgbToHls<Kel32f>, 64>();
+const color::Kernels kToHls32f = floatsToHls();
 const color::Kernels kFromHls8u = interleavedKernels<Kel8u, HlsToRgb<Kel8u>, 64>();
 const color::Kernels kFromHls16u = interleavedKernels<Kel16u, HlsToRgb<Kel16u>, 64>();
 const color::Kernels kFromHls16s = interleavedKernels<Kel16s, HlsToRgb<Kel16s>, 64>();
