@@ -63,10 +63,11 @@ struct Pixels {
     return v;
   }
 
-  template <bool kStreams, class D>
+  // kPhase: the channel of the first lane, if pixels are interleaved.
+  template <bool kStreams, std::size_t kPhase = 0, class D>
   static HWY_INLINE void put(D d, hn::Vec<D> v, TD* dst) {
     if constexpr (kKeepsFourth) {
-      storeWhere(d, cycleMask<4, 3>(d, 0), v, dst);
+      storeWhere(d, cycleMask<4, 3>(d, kPhase), v, dst);
     } else if constexpr (kStreams) {
       hn::Stream(v, d, dst);
     } else {
@@ -100,7 +101,7 @@ struct Pixels {
           interleave4(d, in, out);
         }
         unrolled<kSamples>([&](auto j) KELI_LAMBDA {
-          put<kStreams>(d, out[j], dst[0] + kSamples * (x + c * kN) + j * kN);
+          put<kStreams, j * kN % kSamples>(d, out[j], dst[0] + kSamples * (x + c * kN) + j * kN);
         });
       });
     }
