@@ -127,9 +127,10 @@ TEST(Limits, FoldsReadAllAndWriteTheRegionAndNothingElse) {
 }
 
 // A peer that does what the function does and then changes one byte of the region.
-std::string compareWithChange(const char* name, std::size_t byte, int change, double tolerance) {
+std::string compareWithChange(const char* name, std::size_t byte, int change, double tolerance,
+                              double circle = 0) {
   const Frame frame(function(name), {9, 4, 0}, {});
-  const Peer peer{name, "peer", nullptr, tolerance};
+  const Peer peer{name, "peer", nullptr, tolerance, circle};
   return compare(frame, peer, [&] {
     frame.call();
     frame.destination().data()[frame.destination().step() + byte] += change;
@@ -141,6 +142,12 @@ TEST(Compare, FindsOneChangedSample) {
   EXPECT_NE(compareWithChange("keliCopy_8u_C3R", 4, 1, 0), "");
   EXPECT_EQ(compareWithChange("keliCopy_8u_C3R", 30, 1, 0), "") << "beyond the region";
   EXPECT_NE(compareWithChange("keliCopy_32f_C1R", 8, 1, 0), "");
+}
+
+TEST(Compare, MeasuresRoundTheCircle) {
+  EXPECT_EQ(compareWithChange("keliCopy_8u_C3R", 4, 255, 1, 256), "");
+  EXPECT_NE(compareWithChange("keliCopy_8u_C3R", 4, 128, 1, 256), "");
+  EXPECT_NE(compareWithChange("keliCopy_8u_C3R", 4, 2, 1, 256), "");
 }
 
 TEST(Compare, IgnoresOnlyFourthSamplesOfAC4) {

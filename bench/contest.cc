@@ -86,15 +86,17 @@ double sampleDifference(registry::Type type, const std::uint8_t* a, const std::u
 
 // Position of the first sample that differs by more than the tolerance, or the number of samples.
 std::size_t firstDifference(const Image& image, const std::vector<std::uint8_t>& expected,
-                            const std::vector<std::uint8_t>& found, double tolerance) {
+                            const std::vector<std::uint8_t>& found, const Peer& peer) {
   const std::size_t bytes = registry::bytesOf(image.type());
   const std::size_t samples = expected.size() / bytes;
   for (std::size_t i = 0; i < samples; ++i) {
     const std::uint8_t* a = expected.data() + i * bytes;
     const std::uint8_t* b = found.data() + i * bytes;
     if (std::memcmp(a, b, bytes) == 0 || !takesPart(image, i)) continue;
+    double difference = sampleDifference(image.type(), a, b);
+    if (peer.circle != 0) difference = std::min(difference, peer.circle - difference);
     // Written so that a NaN on one side counts as a difference.
-    if (tolerance == 0 || !(sampleDifference(image.type(), a, b) <= tolerance)) return i;
+    if (peer.tolerance == 0 || !(difference <= peer.tolerance)) return i;
   }
   return samples;
 }
@@ -115,7 +117,7 @@ std::string compareImages(const Frame& frame, const Peer& peer, const Work& work
   work();
   const std::vector<std::uint8_t> found = contents(image);
   const std::size_t bytes = registry::bytesOf(image.type());
-  const std::size_t at = firstDifference(image, expected, found, peer.tolerance);
+  const std::size_t at = firstDifference(image, expected, found, peer);
   if (at == expected.size() / bytes) return "";
   return otherResult(peer, "sample", at, loadComponent(image.type(), found.data() + at * bytes, 0),
                      loadComponent(image.type(), expected.data() + at * bytes, 0));

@@ -32,6 +32,8 @@ struct Peer {
   // Largest difference of a written sample from the function's result; for reductions, relative to
   // it.
   double tolerance = 0;
+  // Samples are places on a circle of this length, if any: its ends are no distance apart.
+  double circle = 0;
 };
 
 struct Family {

@@ -3829,6 +3829,216 @@ KELI_API KelStatus keliColorToGray_16s_AC4C1R(const Kel16s* pSrc, int srcStep, K
 KELI_API KelStatus keliColorToGray_32f_C3C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f weights[3]);
 KELI_API KelStatus keliColorToGray_32f_AC4C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize, const Kel32f weights[3]);
 
+/* ==== Hue and saturation (HSV, HLS) ==== */
+
+/**
+ * Converts RGB to hue, saturation and value.
+ *
+ *     V = max(R, G, B); delta = V - min(R, G, B); S = full delta / V; h = (G - B) / delta if V = R, (B - R) / delta + 2 if V = G, (R - G) / delta + 4 if V = B; H = full / 6 h, + full where that is below 0
+ *
+ * full is 255 (8u) or 65535 (16u), the whole circle of hue; the conversion is that of A. R.
+ * Smith, "Color Gamut Transform Pairs" (1978). Where several components are the greatest, the
+ * last formula holds: that of B before that of G before that of R. Where V = 0 or delta = 0, H
+ * = S = 0. A hue just below the whole circle is rounded to full, which is the same hue as 0.
+ * Every operation is in single precision, in the order written, divisions too; H and S are
+ * rounded to nearest, ties to even, whatever the caller's rounding mode. AC4 leaves the fourth
+ * sample of every destination pixel as it was. Source and destination may be the same image.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliRGBToHSV_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToHSV_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToHSV_16u_C3R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToHSV_16u_AC4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts hue, saturation and value to RGB.
+ *
+ *     h = H 360/full 1/60; f = h - trunc(h); s = S / full; p = V (1 - s); q = V (1 - s f); t = V (1 - s (1 - f)); (R, G, B) = (V, t, p), (q, V, p), (p, V, t), (p, q, V), (t, p, V), (V, p, q) for trunc(h) = 0 .. 5
+ *
+ * full is 255 (8u) or 65535 (16u), the whole circle of hue: H = full gives what H = 0 gives. V,
+ * and with it p, q and t, keep the scale of samples; s is S times 1/full. Every operation is in
+ * single precision, in the order written, with the constants rounded to single precision
+ * (360/255 is 1.4117647); results are rounded to nearest, ties to even, whatever the caller's
+ * rounding mode. S = 0 gives R = G = B = V. AC4 leaves the fourth sample of every destination
+ * pixel as it was. Source and destination may be the same image.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliHSVToRGB_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliHSVToRGB_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliHSVToRGB_16u_C3R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliHSVToRGB_16u_AC4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts RGB to hue, lightness and saturation.
+ *
+ *     sum = max + min; delta = max - min of R, G, B; L = sum / 2; S = delta / sum if L <= 0.5, delta / (2 - sum) otherwise; h = 60 (G - B) / delta if R = max, 60 (B - R) / delta + 120 if G = max, 60 (R - G) / delta + 240 otherwise; h + 360 where h is below 0; H = h / 360
+ *
+ * For values in [0, 1]. Where several components are the greatest, the first formula holds:
+ * that of R before that of G before that of B. 32f has H = S = 0 unless delta > 1.1920929e-07,
+ * the precision of its samples; values outside [0, 1] go through the formulas as they are, and
+ * results that are not numbers are the quiet NaN 0x7FC00000. From components that are not
+ * numbers come results of no meaning, the same on every processor. Integers have full = 255
+ * (8u) or 65535 in place of 1: L is the whole part of sum / 2, S of full delta / sum or full
+ * delta / (2 full - sum), H of h times 0.7083333 (255/360; 8u) or 182.0416717 (65535/360);
+ * where delta = 0, H = S = 0. 16s is offset by 32768 into the range of 16u, and back. Every
+ * operation is in single precision, in the order written, (60 (G - B)) / delta and (full delta)
+ * / (...); of 8u S is the whole part of the exact quotient. AC4 leaves the fourth sample of
+ * every destination pixel as it was. Source and destination may be the same image.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliRGBToHLS_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToHLS_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToHLS_16u_C3R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToHLS_16u_AC4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToHLS_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToHLS_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToHLS_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliRGBToHLS_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts hue, lightness and saturation to RGB.
+ *
+ *     h = 360 H; m2 = L (1 + S) if L <= 0.5, L + S - L S otherwise; m1 = 2 L - m2; v(x) = m1 + (m2 - m1) x / 60 if x < 60, m2 if x < 180, m1 + (m2 - m1) (240 - x) / 60 if x < 240, m1 otherwise; R = v(h + 120), less 360 if above 360; G = v(h); B = v(h - 120), plus 360 if below 0
+ *
+ * For values in [0, 1]; S = 0 gives R = G = B = L. 32f is not clamped; a hue outside [0, 1] has
+ * no meaning and gives what the formulas give, the same on every processor; results that are
+ * not numbers are the quiet NaN 0x7FC00000. Integers have full = 255 (8u) or 65535 in place of
+ * 1: L and m2 keep the scale of samples, with s = S times 1/full m2 is L (1 + s) if L <= full /
+ * 2 and L + S - L s otherwise, and v is m1 + (m2 - m1) w with, of p = H 1.4117647 (360/255; 8u)
+ * or H 360/65535, times 1/60, the weights w of R |p - 3| - 1, of G 2 - |p - 2| and of B 2 - |p
+ * - 4|, cut to [0, 1]. 16s is offset by 32768 into the range of 16u, and back. Every operation
+ * is in single precision, in the order written; integers are rounded to nearest, ties to even,
+ * whatever the caller's rounding mode, and saturated. AC4 leaves the fourth sample of every
+ * destination pixel as it was. Source and destination may be the same image.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliHLSToRGB_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliHLSToRGB_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliHLSToRGB_16u_C3R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliHLSToRGB_16u_AC4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliHLSToRGB_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliHLSToRGB_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliHLSToRGB_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliHLSToRGB_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts BGR to hue, lightness and saturation, interleaved or in planes.
+ *
+ *     as RGBToHLS, of the components B, G, R in this order
+ *
+ * Planes are given as an array of pointers, one for each channel, and share one step; a null
+ * pointer inside an array is reported as a null pointer. AC4 leaves the fourth sample of every
+ * destination pixel as it was, AP4 the fourth plane. Source and destination may be the same
+ * image, if both have the same layout.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliBGRToHLS_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliBGRToHLS_8u_AP4R(const Kel8u* const pSrc[4], int srcStep, Kel8u* const pDst[4], int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliBGRToHLS_8u_C3P3R(const Kel8u* pSrc, int srcStep, Kel8u* const pDst[3], int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliBGRToHLS_8u_P3C3R(const Kel8u* const pSrc[3], int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliBGRToHLS_8u_P3R(const Kel8u* const pSrc[3], int srcStep, Kel8u* const pDst[3], int dstStep, KeliSize roiSize);
+
+/**
+ * Converts interleaved BGR to planes of hue, lightness and saturation.
+ *
+ *     as RGBToHLS, of the components B, G, R in this order
+ *
+ * The planes are given as an array of pointers and share one step. The fourth plane is left as
+ * it was, though its pointer, like the others, must not be null.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliBGRToHLS_8u_AC4P4R(const Kel8u* pSrc, int srcStep, Kel8u* const pDst[4], int dstStep, KeliSize roiSize);
+
+/**
+ * Converts planes of BGR to interleaved hue, lightness and saturation.
+ *
+ *     as RGBToHLS, of the components B, G, R in this order
+ *
+ * The planes are given as an array of pointers, none of which may be null, and share one step.
+ * The fourth plane is not read, and the fourth sample of every destination pixel is left as it
+ * was.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliBGRToHLS_8u_AP4C4R(const Kel8u* const pSrc[4], int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+
+/**
+ * Converts hue, lightness and saturation to BGR, interleaved or in planes.
+ *
+ *     as HLSToRGB, with the results in the order B, G, R
+ *
+ * Planes are given as an array of pointers, one for each channel, and share one step; a null
+ * pointer inside an array is reported as a null pointer. AP4 leaves the fourth plane as it was.
+ * Source and destination may be the same image, if both have the same layout.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliHLSToBGR_8u_AP4R(const Kel8u* const pSrc[4], int srcStep, Kel8u* const pDst[4], int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliHLSToBGR_8u_C3P3R(const Kel8u* pSrc, int srcStep, Kel8u* const pDst[3], int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliHLSToBGR_8u_P3C3R(const Kel8u* const pSrc[3], int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+KELI_API KelStatus keliHLSToBGR_8u_P3R(const Kel8u* const pSrc[3], int srcStep, Kel8u* const pDst[3], int dstStep, KeliSize roiSize);
+
+/**
+ * Converts interleaved hue, lightness and saturation to planes of BGR.
+ *
+ *     as HLSToRGB, with the results in the order B, G, R
+ *
+ * The planes are given as an array of pointers and share one step. The fourth plane is left as
+ * it was, though its pointer, like the others, must not be null.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliHLSToBGR_8u_AC4P4R(const Kel8u* pSrc, int srcStep, Kel8u* const pDst[4], int dstStep, KeliSize roiSize);
+
+/**
+ * Converts planes of hue, lightness and saturation to interleaved BGR.
+ *
+ *     as HLSToRGB, with the results in the order B, G, R
+ *
+ * The planes are given as an array of pointers, none of which may be null, and share one step.
+ * The fourth plane is not read, and the fourth sample of every destination pixel is left as it
+ * was.
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1.
+ */
+KELI_API KelStatus keliHLSToBGR_8u_AP4C4R(const Kel8u* const pSrc[4], int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize);
+
 /* ==== CIE XYZ and LUV ==== */
 
 /**
