@@ -14,6 +14,7 @@ namespace {
 using registry::Argument;
 using registry::Check;
 using registry::Role;
+using registry::Type;
 using registry::Value;
 
 using registry::isPointer;
