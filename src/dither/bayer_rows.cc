@@ -31,60 +31,101 @@ struct KeepAlpha : KeepOthers<4, 3> {
   }
 };
 
-// What is added before the division by full, and 1 more, for the samples of a row, by the place in
-// the cycle; and the levels.
-template <class T>
-struct Row {
-  using Word = std::make_unsigned_t<T>;
-  static constexpr std::uint32_t kFull = std::numeric_limits<Word>::max();
-  static constexpr std::size_t kSize = kCycle + HWY_MAX_BYTES;  // a vector of results is bytes
+// Of a place with this number, what is added before the division by full, and 1 more.
+constexpr std::uint32_t addendOf(std::uint32_t full, std::uint32_t number) {
+  return number == 15 ? 1 : full - full / 15 * number;
+}
 
-  Word addends[kSize];
+// A sample's number of the column, 0..3, by the place in the cycle; long enough to load a vector
+// from any.
+template <std::size_t kChannels>
+struct Columns {
+  static constexpr std::size_t kSize = kCycle + HWY_MAX_BYTES;
+  static constexpr std::array<Kel8u, kSize> make() {
+    std::array<Kel8u, kSize> a{};
+    for (std::size_t i = 0; i < kSize; ++i) a[i] = static_cast<Kel8u>(i / kChannels % 4);
+    return a;
+  }
+  static constexpr std::array<Kel8u, kSize> kOf = make();
+};
+
+const Kel8u* columnsOf(std::size_t channels) {
+  return channels == 1   ? Columns<1>::kOf.data()
+         : channels == 3 ? Columns<3>::kOf.data()
+                         : Columns<4>::kOf.data();
+}
+
+std::uint32_t levelOf(std::uint32_t v, std::uint32_t last, std::uint32_t addend, std::uint32_t full,
+                      const dither::Levels& levels) {
+  const std::uint32_t k = (v * last + addend - 1) / full;
+  return k * levels.whole + static_cast<std::uint32_t>((std::uint64_t{k} * levels.parts) >> 32);
+}
+
+// Looks up lanes of 0..15.
+template <class D>
+HWY_INLINE hn::Vec<D> lookUp(D d, const Kel8u (&table)[16], hn::Vec<D> indices) {
+  if constexpr (hn::MaxLanes(D()) >= 16) {
+    return hn::TableLookupBytes(hn::LoadDup128(d, table), indices);
+  } else {
+    return hn::TableLookupBytes(hn::Load(hn::CappedTag<Kel8u, 16>(), table), indices);
+  }
+}
+
+// Tables of bytes by the place in the matrix, 4 * row + column, and the levels.
+struct ByteTables {
+  alignas(16) Kel8u addends[16];
   std::uint32_t last;  // levels - 1
   dither::Levels levels;
+  const Kel8u* columns;
 
-  Row() : last(0), levels(1, 2) {}
-  Row(std::size_t y, std::size_t channels, const dither::Levels& all)
-      : last(static_cast<std::uint32_t>(all.last)), levels(all) {
-    for (std::size_t x = 0; x < 4; ++x) {
-      const std::uint32_t number = dither::kBayer[y % 4][x];
-      for (std::size_t k = 0; k < channels; ++k)
-        addends[channels * x + k] =
-            static_cast<Word>(number == 15 ? 1 : kFull - kFull / 15 * number);
-    }
-    for (std::size_t i = 4 * channels; i < kSize; ++i) addends[i] = addends[i - 4 * channels];
-  }
-
-  std::uint32_t level(std::size_t phase, T sample) const {
-    const std::uint32_t sign = std::is_signed_v<T> ? 0x8000 : 0;
-    const std::uint32_t v = static_cast<std::make_unsigned_t<T>>(sample) ^ sign;
-    const std::uint32_t k = (v * last + addends[phase] - 1) / kFull;
-    return k * levels.whole + static_cast<std::uint32_t>((std::uint64_t{k} * levels.parts) >> 32);
+  ByteTables(std::size_t firstRow, std::size_t channels, int count)
+      : last(static_cast<std::uint32_t>(count - 1)),
+        levels(255, count),
+        columns(columnsOf(channels)) {
+    for (std::size_t i = 0; i < 16; ++i)
+      addends[i] = static_cast<Kel8u>(addendOf(255, dither::kBayer[(firstRow + i / 4) % 4][i % 4]));
   }
 };
 
 struct BayerOp {
   static constexpr std::size_t kPeriod = kCycle;
   static constexpr std::size_t kUnroll = 6;
+  static constexpr std::size_t kVectorBytes = 64;
 };
 
-struct BayerBytes : BayerOp {
-  static constexpr std::size_t kVectorBytes = 64;
-  const Row<Kel8u>& row;
+// A row of bytes.
+template <class Tables>
+struct ByteRow : BayerOp {
+  const Tables& tables;
+  Kel8u first;  // place of the row's first sample
 
-  explicit BayerBytes(const Row<Kel8u>& r) : row(r) {}
+  ByteRow(const Tables& t, std::size_t y) : tables(t), first(static_cast<Kel8u>(4 * (y % 4))) {}
+
+  template <class D>
+  HWY_INLINE hn::Vec<D> places(D d, std::size_t phase) const {
+    return hn::LoadU(d, tables.columns + phase) + hn::Set(d, first);
+  }
+  HWY_INLINE Kel8u scalar(std::size_t phase, Kel8u v) const {
+    const Kel8u addend = tables.addends[tables.columns[phase] + first];
+    return static_cast<Kel8u>(levelOf(v, tables.last, addend, 255, tables.levels));
+  }
+};
+
+struct AnyLevels : ByteRow<ByteTables> {
+  using Tables = ByteTables;
+  using ByteRow::ByteRow;
 
   template <class D>
   HWY_INLINE Wide<D> at(D d, std::size_t phase) const {
-    return widen(d, hn::LoadU(d, row.addends + phase));
+    return widen(d, lookUp(d, tables.addends, places(d, phase)));
   }
   // In 16 bits: x = v * n + addend is at most 65280, and x / 255 of x - 1 is (x + x / 256) / 256.
   template <class D>
   HWY_INLINE hn::Vec<D> vector(D d, const Wide<D>& addends, hn::Vec<D> v) const {
     const WideTag<D> dw;
-    const auto last = hn::Set(dw, static_cast<std::uint16_t>(row.last));
-    const auto whole = hn::Set(dw, static_cast<std::uint16_t>(row.levels.whole));
-    const auto parts = hn::Set(dw, row.levels.shortParts());
+    const auto last = hn::Set(dw, static_cast<std::uint16_t>(tables.last));
+    const auto whole = hn::Set(dw, static_cast<std::uint16_t>(tables.levels.whole));
+    const auto parts = hn::Set(dw, tables.levels.shortParts());
     const auto level = [&](auto samples, auto addend) KELI_LAMBDA {
       const auto x = samples * last + addend;
       const auto k = hn::ShiftRight<8>(x + hn::ShiftRight<8>(x));
@@ -95,19 +136,101 @@ struct BayerBytes : BayerOp {
     if constexpr (kTwoHalves<D>) w.hi = level(w.hi, addends.hi);
     return narrow(d, w);
   }
-  HWY_INLINE Kel8u scalar(std::size_t phase, Kel8u v) const {
-    return static_cast<Kel8u>(row.level(phase, v));
+};
+
+// Up to 16 levels, whose values a shuffle looks up. With addend - 1 = n * whole + rest, the number
+// (v * n + addend - 1) / 255 is (w * n + rest) / 255 of w = v + whole, which saturates where the
+// number is n anyway. That is (256 * w + r) * 257 * n / 2^24, fractions cut off, with r = 256 *
+// rest / n + 2, cut off too: the product lacks w * n / 65536 / 255 < n / 65536, and r * 257 * n /
+// 2^24 exceeds rest / 255 by more than that and, as n is small, by less than what is left of 1 /
+// 255.
+struct FewTables : ByteTables {
+  alignas(16) Kel8u wholes[16];
+  alignas(16) Kel8u rests[16];
+  alignas(16) Kel8u values[16];
+
+  FewTables(std::size_t firstRow, std::size_t channels, int count)
+      : ByteTables(firstRow, channels, count) {
+    for (std::uint32_t i = 0; i < 16; ++i) {
+      const std::uint32_t addend = addends[i] - 1u;
+      wholes[i] = static_cast<Kel8u>(addend / last);
+      rests[i] = static_cast<Kel8u>(256 * (addend % last) / last + 2);
+      values[i] = static_cast<Kel8u>(std::min(255u, i * 255 / last));
+    }
+  }
+};
+
+struct FewLevels : ByteRow<FewTables> {
+  using Tables = FewTables;
+  static constexpr int kMost = 16;
+  using ByteRow::ByteRow;
+
+  template <class D>
+  struct At {
+    hn::Vec<D> wholes;
+    hn::Vec<hn::RepartitionToWide<D>> even, odd;
+  };
+  // Of two samples side by side, a word has the upper one's where it stands; the lower one's is
+  // shifted up.
+  template <class D>
+  HWY_INLINE At<D> at(D d, std::size_t phase) const {
+    const hn::RepartitionToWide<D> dw;
+    const auto here = places(d, phase);
+    const auto rests = hn::BitCast(dw, lookUp(d, tables.rests, here));
+    return {lookUp(d, tables.wholes, here), rests & hn::Set(dw, 0xFF), hn::ShiftRight<8>(rests)};
+  }
+  template <class D>
+  HWY_INLINE hn::Vec<D> vector(D d, const At<D>& at, hn::Vec<D> v) const {
+    const hn::RepartitionToWide<D> dw;
+    const auto factor = hn::Set(dw, static_cast<std::uint16_t>(257 * tables.last));
+    const auto upper = hn::Set(dw, 0xFF00);
+    const auto w = hn::BitCast(dw, hn::SaturatedAdd(v, at.wholes));
+    const auto even = hn::MulHigh(hn::ShiftLeft<8>(w) | at.even, factor);
+    const auto odd = hn::MulHigh((w & upper) | at.odd, factor);
+    const auto numbers = hn::ShiftRight<8>(even) | (odd & upper);
+    return lookUp(d, tables.values, hn::BitCast(d, numbers));
+  }
+};
+
+template <class Op, class Keep>
+void ownBayerOfBytes(const Band<1>& b, std::size_t firstRow, std::size_t channels, int levels) {
+  const typename Op::Tables tables(firstRow, channels, levels);
+  for (std::size_t y = 0; y < b.rows; ++y) mapRow<Kel8u, Kel8u, Keep>(b, y, Op(tables, y));
+  if (b.streams) hwy::FlushStream();
+}
+
+template <class Keep>
+void ownBayerBytes(const Band<1>& b, std::size_t firstRow, std::size_t channels, int levels) {
+  (levels <= FewLevels::kMost ? ownBayerOfBytes<FewLevels, Keep>
+                              : ownBayerOfBytes<AnyLevels, Keep>)(b, firstRow, channels, levels);
+}
+
+// The same for a row of words, of which one table would not hold all.
+template <class T>
+struct WordRow {
+  static constexpr std::size_t kSize = kCycle + HWY_MAX_BYTES;  // a vector of results is bytes
+  Kel16u addends[kSize];
+  std::uint32_t last;
+  dither::Levels levels;
+
+  WordRow() : last(0), levels(1, 2) {}
+  WordRow(std::size_t y, std::size_t channels, const dither::Levels& all)
+      : last(static_cast<std::uint32_t>(all.last)), levels(all) {
+    const Kel8u* const columns = columnsOf(channels);
+    Kel16u four[4];
+    for (std::size_t x = 0; x < 4; ++x)
+      four[x] = static_cast<Kel16u>(addendOf(65535, dither::kBayer[y % 4][x]));
+    for (std::size_t i = 0; i < kSize; ++i) addends[i] = four[columns[i]];
   }
 };
 
 // Samples of 16 bits. Numbers of levels are formed in 32 bits, levels in 16.
 template <class TS, class TD>
 struct BayerWords : BayerOp {
-  static constexpr std::size_t kVectorBytes = 64;
   static constexpr bool kLoads = sizeof(TD) == 1;
-  const Row<TS>& row;
+  const WordRow<TS>& row;
 
-  explicit BayerWords(const Row<TS>& r) : row(r) {}
+  explicit BayerWords(const WordRow<TS>& r) : row(r) {}
 
   template <class D>
   static constexpr std::size_t kSources = kLoads&& hn::MaxLanes(D()) * sizeof(TD) >= 16
@@ -186,29 +309,32 @@ struct BayerWords : BayerOp {
   }
 
   HWY_INLINE TD scalar(std::size_t phase, TS v) const {
-    const std::uint32_t sign = std::is_signed_v<TD> ? 0x8000 : 0;
-    return static_cast<TD>(row.level(phase, v) ^ sign);
+    constexpr int kOffset = std::is_signed_v<TS> ? 32768 : 0;
+    const std::uint32_t level = levelOf(static_cast<std::uint32_t>(v + kOffset), row.last,
+                                        row.addends[phase], 65535, row.levels);
+    return static_cast<TD>(static_cast<int>(level) - (sizeof(TD) == 1 ? 0 : kOffset));
   }
 };
 
 template <class TS, class TD, class Keep>
-void ownBayer(const Band<1>& b, std::size_t firstRow, std::size_t channels, int levels) {
-  using Op = std::conditional_t<sizeof(TS) == 1, BayerBytes, BayerWords<TS, TD>>;
+void ownBayerWords(const Band<1>& b, std::size_t firstRow, std::size_t channels, int levels) {
   const dither::Levels all(dither::kFullScale<TD>, levels);
-  Row<TS> rows[4];
-  for (std::size_t y = 0; y < 4 && y < b.rows; ++y) rows[y] = Row<TS>(firstRow + y, channels, all);
-  for (std::size_t y = 0; y < b.rows; ++y) mapRow<TS, TD, Keep>(b, y, Op(rows[y % 4]));
+  WordRow<TS> rows[4];
+  for (std::size_t y = 0; y < 4 && y < b.rows; ++y)
+    rows[y] = WordRow<TS>(firstRow + y, channels, all);
+  for (std::size_t y = 0; y < b.rows; ++y)
+    mapRow<TS, TD, Keep>(b, y, BayerWords<TS, TD>(rows[y % 4]));
   if (b.streams) hwy::FlushStream();
 }
 
 template <class TS, class TD>
-constexpr dither::BayerRows kBayerRows = {ownBayer<TS, TD, KeepNone>, ownBayer<TS, TD, KeepAlpha>};
-
-constexpr auto kBayer8u = kBayerRows<Kel8u, Kel8u>;
-constexpr auto kBayer16u = kBayerRows<Kel16u, Kel16u>;
-constexpr auto kBayer16s = kBayerRows<Kel16s, Kel16s>;
-constexpr auto kBayer16u8u = kBayerRows<Kel16u, Kel8u>;
-constexpr auto kBayer16s8u = kBayerRows<Kel16s, Kel8u>;
+constexpr dither::BayerRows kBayerWords = {ownBayerWords<TS, TD, KeepNone>,
+                                           ownBayerWords<TS, TD, KeepAlpha>};
+constexpr dither::BayerRows kBayer8u = {ownBayerBytes<KeepNone>, ownBayerBytes<KeepAlpha>};
+constexpr auto kBayer16u = kBayerWords<Kel16u, Kel16u>;
+constexpr auto kBayer16s = kBayerWords<Kel16s, Kel16s>;
+constexpr auto kBayer16u8u = kBayerWords<Kel16u, Kel8u>;
+constexpr auto kBayer16s8u = kBayerWords<Kel16s, Kel8u>;
 
 }  // namespace keli::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();

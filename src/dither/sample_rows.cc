@@ -129,7 +129,8 @@ void ownAddNoise(Kel32f* values, std::size_t n, std::size_t x, const dither::Noi
     const hn::RebindToUnsigned<decltype(d)> du;
     const hn::RebindToSigned<decltype(d)> di;
     const auto golden = hn::Set(du, 0x9E3779B1);
-    auto hash = hn::Iota(du, static_cast<std::uint32_t>(x + i)) * golden + hn::Set(du, noise.seed);
+    const auto column = hn::Iota(du, 0) + hn::Set(du, static_cast<std::uint32_t>(x + i));
+    auto hash = column * golden + hn::Set(du, noise.seed);
     hash = (hash ^ hn::ShiftRight<15>(hash)) * golden;
     hash = (hash ^ hn::ShiftRight<13>(hash)) * golden;
     hash = hash ^ hn::ShiftRight<16>(hash);
