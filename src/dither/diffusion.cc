@@ -60,8 +60,10 @@ struct Plan {
   }
   // How far a stream is behind the one that works on the rows above.
   std::size_t lag() const { return skew * lanes() + kChainDelay * (chainsOfChannel - 1); }
-  // Errors that one row of lanes leaves in memory; zeros come before the first.
-  std::size_t errors() const { return period + steps + lag() + kTileSteps; }
+  // Room for the errors that one row of lanes leaves in memory, behind those of a period before. A
+  // stream on its own reads them within a period, and moves them down when the room is full.
+  std::size_t window() const { return streams == 1 ? 32 * kTileSteps : steps + lag() + kTileSteps; }
+  std::size_t errors() const { return period + window(); }
 
   std::size_t stepsOf(std::size_t stream) const;
   void chooseShape(std::size_t threads);
@@ -181,9 +183,10 @@ class Stream {
   std::size_t perChain() const { return plan_.wave.lanes * kTileSteps; }
   // Where the errors stand that the last lane of a channel's chain leaves at a step.
   Kel32f* errorsAt(std::size_t row, std::size_t channel, std::size_t step) const {
-    return errors_[row][channel] + plan_.period + step;
+    return errors_[row][channel] + plan_.period + step - base_;
   }
   Tile tile();
+  void makeRoom();
   void read();
   void write();
 
@@ -191,6 +194,7 @@ class Stream {
   const std::size_t index_;
   const std::size_t steps_;
   const Stream* above_ = this;
+  std::size_t base_ = 0;  // step of the first error after those of a period before
   std::atomic<std::size_t> done_{0};
   Kel32f* rows_ = nullptr;    // of each chain and lane, a tile's values in the order of the image
   Kel32f* values_ = nullptr;  // in the order of the steps
@@ -225,6 +229,16 @@ bool Stream::isReady() const {
   const std::size_t needed = done_.load(std::memory_order_relaxed) + kTileSteps + plan_.lag();
   const std::size_t made = above_->done_.load(std::memory_order_acquire);
   return made == above_->steps_ || made + before >= needed;
+}
+
+void Stream::makeRoom() {
+  const std::size_t used = done_.load(std::memory_order_relaxed) - base_;
+  if (used + kTileSteps <= plan_.window()) return;
+  for (std::size_t k = 0; k < plan_.images.channels; ++k) {
+    for (std::size_t r = 0; r < plan_.rowsAbove; ++r)
+      std::memmove(errors_[r][k], errors_[r][k] + used, plan_.period * sizeof(Kel32f));
+  }
+  base_ += used;
 }
 
 Tile Stream::tile() {
@@ -278,6 +292,7 @@ void Stream::write() {
 
 void Stream::advance() {
   const std::size_t chains = plan_.chains();
+  makeRoom();
   read();
   for (std::size_t c = 0; c < chains; ++c)
     plan_.wave.toSteps(rows_ + c * perChain(), values_ + c * perChain());
