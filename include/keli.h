@@ -3742,11 +3742,11 @@ KELI_API KelStatus keliYCCToRGB_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f
  * but for Floyd-Steinberg, whose terms of row y - 1 are added first. 256 levels of 8u reproduce
  * an 8u source.
  *
- * dither 4 (kelDitherBayer) is ordered: k is the level at v or below, and one more where m *
- * step < v - k * step, m = M[y % 4][x % 4] / 15 with the matrix M = 0 8 2 10 / 12 4 14 6 / 3 11
- * 1 9 / 15 7 13 5, x and y counted in the region. Of integer sources without noise that is
- * exact; else v is clamped to 0..full and the arithmetic is that above, with m * step rounded
- * as M * step / 15.
+ * dither 4 (kelDitherBayer) is ordered: k is the level at v or below, and one more, if there is
+ * one, where m * step < v - k * step, m = M[y % 4][x % 4] / 15 with the matrix M = 0 8 2 10 /
+ * 12 4 14 6 / 3 11 1 9 / 15 7 13 5, x and y counted in the region. Of integer sources without
+ * noise that is exact; else v is clamped to 0..full and the arithmetic is that above, with m *
+ * step rounded as M * step / 15.
  *
  * noise, in percent, adds noise / 100 * step * u to every value, u in [-0.5, 0.5) evenly
  * spread, and clamps it to 0..full. u is a function of column, row and channel alone: with h =

@@ -7,6 +7,7 @@
 // tone pictures on bilevel displays" (1976); P. Stucki, "MECCA - a multiple-error correction
 // computation algorithm for bi-level image hardcopy reproduction" (1981).
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <cstring>
 #include <new>
@@ -163,6 +164,13 @@ bool isIdle(const Plan& plan, const Place& place) {
          place.column >= static_cast<std::ptrdiff_t>(plan.images.width);
 }
 
+constexpr std::array<Kel32f, kTileSteps> makeIdleSteps() {
+  std::array<Kel32f, kTileSteps> steps{};
+  for (std::size_t i = 0; i < kTileSteps; ++i) steps[i] = kIdle;
+  return steps;
+}
+constexpr std::array<Kel32f, kTileSteps> kIdleSteps = makeIdleSteps();
+
 // The chains that a thread works on.
 class Stream {
  public:
@@ -266,7 +274,7 @@ void Stream::read() {
       Kel32f* planes[4] = {};
       for (std::size_t k = 0; k < plan_.images.channels; ++k) {
         planes[k] = rows_ + (k * plan_.lanes() + lane) * kTileSteps + at;
-        if (isIdle(plan_, from)) std::fill_n(planes[k], n, kIdle);
+        if (isIdle(plan_, from)) std::memcpy(planes[k], kIdleSteps.data(), n * sizeof(Kel32f));
       }
       if (isIdle(plan_, from)) return;
       readValues(plan_.images, plan_.method, static_cast<std::size_t>(from.column), from.row, n,
@@ -306,8 +314,8 @@ void Stream::advance() {
   done_.store(done_.load(std::memory_order_relaxed) + kTileSteps, std::memory_order_release);
 }
 
-// Runs the streams of one thread by turns. However few threads there are, the stream that is
-// furthest behind is never one that waits.
+// Runs the streams of one thread by turns. However few threads there are, some stream can go on: a
+// period is longer than the distances that all of them keep together.
 void run(Stream* const* streams, int count) {
   for (int done = 0; done < count;) {
     done = 0;

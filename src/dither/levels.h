@@ -24,15 +24,8 @@ struct Levels {
   std::uint32_t whole;
   std::uint32_t parts;
 
-  Levels(int fullScale, int count)
-      : full(static_cast<Kel32f>(fullScale)),
-        last(static_cast<Kel32f>(count - 1)),
-        step(full / last),
-        factor(last / full * (1 + 0x1p-22f)),
-        whole(static_cast<std::uint32_t>(fullScale / (count - 1))),
-        parts(static_cast<std::uint32_t>(
-            ((std::uint64_t(fullScale % (count - 1)) << 32) + static_cast<unsigned>(count) - 2) /
-            static_cast<unsigned>(count - 1))) {}
+  // Not inline, so that no caller's rounding mode reaches the arithmetic: see rounding_mode.h.
+  Levels(int fullScale, int count);
 
   // parts as a fraction of 2^16, for numbers below 2^8 and a full scale of 255.
   std::uint16_t shortParts() const { return static_cast<std::uint16_t>((parts + 0xFFFF) >> 16); }

@@ -9,6 +9,16 @@
 
 namespace keli::dither {
 
+Levels::Levels(int fullScale, int count)
+    : full(static_cast<Kel32f>(fullScale)),
+      last(static_cast<Kel32f>(count - 1)),
+      step(full / last),
+      factor(last / full * (1 + 0x1p-22f)),
+      whole(static_cast<std::uint32_t>(fullScale / (count - 1))),
+      parts(static_cast<std::uint32_t>(
+          ((std::uint64_t(fullScale % (count - 1)) << 32) + static_cast<unsigned>(count) - 2) /
+          static_cast<unsigned>(count - 1))) {}
+
 void readValues(const Images& images, const Method& method, std::size_t x, std::size_t y,
                 std::size_t n, Planes values) {
   const std::uint8_t* const row = images.src + static_cast<std::ptrdiff_t>(y) * images.srcStep;

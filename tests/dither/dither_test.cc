@@ -3,6 +3,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cfenv>
 #include <cmath>
 #include <numeric>
 #include <vector>
@@ -280,7 +281,10 @@ INSTANTIATE_TEST_SUITE_P(Methods, Dither, testing::Values(1, 2, 3, 4));
 TEST(DitherBayer, EveryByteAndEveryNumberOfLevels) {
   std::vector<Kel8u> src(4 * 1024), dst(src.size());
   for (std::size_t i = 0; i < src.size(); ++i) src[i] = static_cast<Kel8u>(i % 1024 / 4);
-  for (int levels = 2; levels <= 256; ++levels) {
+  const std::vector<std::int64_t> targets = testedTargets();
+  for (std::size_t n = 0; n < 255 * targets.size(); ++n) {
+    const UseTarget use(targets[n % targets.size()]);
+    const int levels = 2 + static_cast<int>(n / targets.size());
     keliReduceBits_8u_C1R(src.data(), 1024, dst.data(), 1024, {1024, 4}, 0, kelDitherBayer, levels);
     for (int i = 0; i < 4096; ++i) {
       const int k = orderedExactly(i % 4, i / 1024, i % 1024 / 4, {4, levels, 0}, 255);
@@ -423,6 +427,26 @@ TEST(DitherDiffusion, SameResultOnAnyNumberOfThreadsAndInPlace) {
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "status " << status;
   }
   omp_set_num_threads(threads);
+}
+
+TEST(DitherRounding, TheCallersModeDoesNotMatter) {
+  for (const int dither : {1, 2, 4}) {
+    const auto run = [&](int mode) {
+      TestCall call(*registry::find("keliReduceBits_16u8u_C1R"), {300, 40, 0, Place::kMiddle, 0},
+                    3);
+      call.values[call.find(Role::kDither)].i = dither;
+      call.values[call.find(Role::kGrayLevels)].i = 15;
+      call.values[call.find(Role::kNoise)].i = 10;
+      std::fesetround(mode);
+      EXPECT_EQ(call.run().status, kelStatusOk);
+      EXPECT_EQ(std::fegetround(), mode);
+      std::fesetround(FE_TONEAREST);
+      return call.region(call.written());
+    };
+    const std::vector<std::uint8_t> expected = run(FE_TONEAREST);
+    for (const int mode : {FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO})
+      EXPECT_TRUE(run(mode) == expected) << "method " << dither << ", mode " << mode;
+  }
 }
 
 TEST(DitherMemory, DiffusionWithoutMemoryWritesNothing) {
