@@ -11,7 +11,7 @@ from dataclasses import dataclass, field
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-TABLES = ["core", "data", "convert", "border", "mirror", "arith", "division", "complex", "math", "logic", "threshold", "compare", "sums", "extremes", "norms", "histogram", "box", "morphology", "remap", "luma", "hue", "cie"]
+TABLES = ["core", "data", "convert", "border", "mirror", "arith", "division", "complex", "math", "logic", "threshold", "compare", "sums", "extremes", "norms", "histogram", "box", "morphology", "remap", "luma", "hue", "cie", "dither"]
 
 # Names whose role needs no mention in a table; every other argument is written name:role[:type].
 ROLE_OF_NAME = {

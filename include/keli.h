@@ -4185,6 +4185,109 @@ KELI_API KelStatus keliLUVToRGB_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s
 KELI_API KelStatus keliLUVToRGB_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
 KELI_API KelStatus keliLUVToRGB_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
 
+/* ==== Bit-depth reduction with dithering ==== */
+
+/**
+ * Reduces the samples of an image to a number of evenly spaced levels, with dithering.
+ *
+ *     dst = floor(k * full / (levels - 1)), k of 0..levels - 1 by the method
+ *
+ * full is the full scale of the result's type: 255 for 8u, 65535 for 16u and 16s. Samples of
+ * 16s are offset by 32768 into 0..65535, and back. Every channel is reduced on its own.
+ *
+ * A source sample becomes a value v in 0..full: one of the result's type as it is, one of 16
+ * bits for an 8u result times 255/65535, and one of 32f as it is (for 16s plus 32768); 32f
+ * samples beyond the range saturate, and one that is no number counts as full. step is full /
+ * (levels - 1).
+ *
+ * dither 0 (kelDitherNone) does not reduce, and looks at neither noise nor levels: where the
+ * types are the same it copies; 16 bits are scaled to 8u as by keliScale_16u8u_C1R, 32f are
+ * rounded as by keliConvert_32f8u_C1R to nearest. A dither that names no method writes nothing.
+ *
+ * dither 1 (kelDitherFloydSteinberg), 2 (kelDitherJarvisJudiceNinke) and 3 (kelDitherStucki)
+ * diffuse errors, rows from top to bottom and each from left to right. The errors e of pixels
+ * that are done, those outside the region 0, are added to the value: v = s + the sum of w * e,
+ * with the weights w
+ *
+ * Floyd-Steinberg, in 16ths: row y: 7 at x - 1; row y - 1: 1, 5, 3 at x - 1 .. x + 1
+ *
+ * Jarvis-Judice-Ninke, in 48ths: row y: 5, 7 at x - 2, x - 1; row y - 1: 3, 5, 7, 5, 3 and row
+ * y - 2: 1, 3, 5, 3, 1 at x - 2 .. x + 2
+ *
+ * Stucki, in 42nds: row y: 4, 8 at x - 2, x - 1; row y - 1: 2, 4, 8, 4, 2 and row y - 2: 1, 2,
+ * 4, 2, 1 at x - 2 .. x + 2
+ *
+ * Where v >= full the result is full, where v < 2^-100 it is 0, and no error goes on. Else k =
+ * trunc(v * (levels - 1) / full), and one more if v - k * step > step / 2; e = v - k * step
+ * with that k. All in single precision: weights are rounded, (levels - 1) / full is, and is
+ * then made larger by 2^-22 of itself, so that a value on a level is not taken to lie below it;
+ * terms are added from the furthest row to row y, each row from left to right, to the value,
+ * but for Floyd-Steinberg, whose terms of row y - 1 are added first. 256 levels of 8u reproduce
+ * an 8u source.
+ *
+ * dither 4 (kelDitherBayer) is ordered: k is the level at v or below, and one more, if there is
+ * one, where m * step < v - k * step, m = M[y % 4][x % 4] / 15 with the matrix M = 0 8 2 10 /
+ * 12 4 14 6 / 3 11 1 9 / 15 7 13 5, x and y counted in the region. Of integer sources without
+ * noise that is exact; else v is clamped to 0..full and the arithmetic is that above, with m *
+ * step rounded as M * step / 15.
+ *
+ * noise, in percent, adds noise / 100 * step * u to every value, u in [-0.5, 0.5) evenly
+ * spread, and clamps it to 0..full. u is a function of column, row and channel alone: with h =
+ * x * G + (4 * y + channel) * 0x85EBCA77 and G = 0x9E3779B1, modulo 2^32, h = (h ^ h >> 15) *
+ * G, h = (h ^ h >> 13) * G and h ^= h >> 16, it is (h >> 8) / 2^24 - 0.5. Channels count from
+ * 0.
+ *
+ * Results do not depend on threads, alignment or the caller's rounding mode. AC4 leaves the
+ * destination's fourth channel alone. Source and destination may be the same image where their
+ * types are the same. Error diffusion needs memory; kelStatusNoMemory if there is none, and
+ * nothing is written.
+ *
+ * The methods: R. W. Floyd and L. Steinberg, "An adaptive algorithm for spatial greyscale"
+ * (1976); J. F. Jarvis, C. N. Judice and W. H. Ninke, "A survey of techniques for the display
+ * of continuous tone pictures on bilevel displays" (1976); P. Stucki, "MECCA - a multiple-error
+ * correction computation algorithm for bi-level image hardcopy reproduction" (1981); B. E.
+ * Bayer, "An optimum method for two-level rendition of continuous-tone pictures" (1973).
+ *
+ * On large regions the rows are shared out among threads, with the same results.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusBadStep if a step is below 1; kelStatusBadNoise if
+ * dither is a method and noise is outside 0..100; kelStatusBadLevelCount if dither is a method
+ * and levels is outside 2..256 (8u results) or 2..65536.
+ */
+KELI_API KelStatus keliReduceBits_8u_C1R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_8u_C3R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_8u_C4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_8u_AC4R(const Kel8u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16u_C1R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16u_C3R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16u_C4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16u_AC4R(const Kel16u* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16u8u_C1R(const Kel16u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16u8u_C3R(const Kel16u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16u8u_C4R(const Kel16u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16u8u_AC4R(const Kel16u* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16s8u_C1R(const Kel16s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16s8u_C3R(const Kel16s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16s8u_C4R(const Kel16s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16s8u_AC4R(const Kel16s* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16s_C3R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16s_C4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_16s_AC4R(const Kel16s* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_32f8u_C1R(const Kel32f* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_32f8u_C3R(const Kel32f* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_32f8u_C4R(const Kel32f* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_32f8u_AC4R(const Kel32f* pSrc, int srcStep, Kel8u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_32f16u_C1R(const Kel32f* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_32f16u_C3R(const Kel32f* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_32f16u_C4R(const Kel32f* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_32f16u_AC4R(const Kel32f* pSrc, int srcStep, Kel16u* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_32f16s_C1R(const Kel32f* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_32f16s_C3R(const Kel32f* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_32f16s_C4R(const Kel32f* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+KELI_API KelStatus keliReduceBits_32f16s_AC4R(const Kel32f* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+
 #ifdef __cplusplus
 }
 #endif

@@ -18,6 +18,8 @@ template <class D, class TS, class F>
 HWY_INLINE hn::Vec<D> narrowed(D d, const TS*, const F&) {
   return hn::Zero(d);  // never run: the drivers call scalar definitions
 }
+template <std::size_t kRatio, class D>
+hn::Vec<D> inOrder(D d, hn::Vec<D> v);
 #else
 // Where the words of a vector of kBytes stand after packs of kRatio vectors, in the order of the
 // samples.

@@ -14,6 +14,7 @@ namespace {
 using registry::Argument;
 using registry::Check;
 using registry::Role;
+using registry::Type;
 using registry::Value;
 
 using registry::isPointer;
@@ -306,6 +307,10 @@ TEST(Checks, EveryFunctionReturnsTheFirstFailingCheck) {
     if (f.entry->checks.size == 0) continue;
     ++functions;
     TestCall call(f, Geometry{}, runSeed());
+    // A method, for the sake of what methods alone look at.
+    const std::size_t dither = call.find(Role::kDither);
+    if (dither != TestCall::npos)
+      call.values[dither].i = 1 + static_cast<std::int64_t>(functions % 4);
     const std::vector<Value> good = call.values;
     const std::vector<Fault> faults = faultsOf(call);
     for (std::size_t i = 0; i < faults.size(); ++i) {
@@ -315,6 +320,10 @@ TEST(Checks, EveryFunctionReturnsTheFirstFailingCheck) {
         call.values[faults[i].argument] = faults[i].value;
         call.values[faults[j].argument] = faults[j].value;
         const KelStatus expected = expectedStatus(call, call.values);
+        // One that names no method hides what methods alone look at.
+        if (expected == 0 && dither != TestCall::npos &&
+            (faults[i].argument == dither || faults[j].argument == dither))
+          continue;
         ASSERT_LT(expected, 0) << f.name << ": no check covers " << faults[i].what;
         ASSERT_EQ(call.run().status, expected)
             << f.name << ": " << faults[i].what << ", " << faults[j].what;

@@ -115,7 +115,8 @@ void addModeFaults(const TestCall& call, std::size_t i, std::vector<Fault>& faul
   addAll(Role::kInterpolation, {0, 3, 5, 8, INT_MIN});
   addAll(Role::kBitOffset, {-1, 8, INT_MIN});
   addAll(Role::kNoise, {-1, 101, INT_MIN, INT_MAX});
-  addAll(Role::kGrayLevels, {1, 0, 257, 65537, INT_MIN, INT_MAX});
+  addAll(Role::kGrayLevels, {1, 0, 65537, INT_MIN, INT_MAX});
+  if (call.function.arguments[call.written()].type == Type::k8u) addAll(Role::kGrayLevels, {257});
   addAll(Role::kDither, {-1, 0, 4, 5, INT_MIN, INT_MAX});
   if (a.role == Role::kRangeMin) {
     const double most = call.values[call.find(Role::kRangeMax)].f;
