@@ -3707,7 +3707,7 @@ KELI_API KelStatus keliYCCToRGB_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f
  *
  *     Y = (16843 R + 33030 G + 6423 B + 0x108000) >> 16; Cb = (-9699 R - 19071 G + 28770 B + 0x808000) >> 16; Cr = (28770 R - 24117 G - 4653 B + 0x808000) >> 16
  *
- * The color space of ITU-R BT.601 in the range of a studio: Y from 16 (black) to 235 (white),
+ * The colour space of ITU-R BT.601 in the range of a studio: Y from 16 (black) to 235 (white),
  * Cb and Cr from 16 to 240 with 128 for gray. The sums are exact; they are rounded to nearest,
  * as 0x8000 is a half, and no result leaves its range. P3 is of three planes, which share a
  * step, on either side. AC4 leaves the fourth sample of every destination pixel as it was.
@@ -3803,7 +3803,7 @@ KELI_API KelStatus keliRGBToGray_32f_C3C1R(const Kel32f* pSrc, int srcStep, Kel3
 KELI_API KelStatus keliRGBToGray_32f_AC4C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, KeliSize roiSize);
 
 /**
- * Converts a color image to gray with given weights.
+ * Converts a colour image to gray with given weights.
  *
  *     dst = w0 c0 + w1 c1 + w2 c2; 8u: (w0 c0 + w1 c1 + w2 c2) >> 12 with weights in units of 1 / 4096
  *

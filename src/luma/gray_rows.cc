@@ -76,6 +76,8 @@ struct GrayOfBytes {
 
 template <class T>
 struct GrayOfReals {
+  static constexpr bool kOnce = !std::is_floating_point_v<T>;
+
   luma::Weights weights;
 
   template <class DF>

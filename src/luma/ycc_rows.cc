@@ -37,8 +37,6 @@ struct RgbToYcc : Rounded {
 
 template <class T>
 struct YccToRgb : Rounded {
-  static constexpr bool kShort = true;
-
   template <class D>
   HWY_INLINE Channels<D> operator()(D d, const Channels<D>& ycc) const {
     const auto c = [&](float v) KELI_LAMBDA { return hn::Set(d, v); };
