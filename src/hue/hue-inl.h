@@ -106,7 +106,7 @@ HWY_INLINE auto differenceOf(D d, hn::Vec<D> a, hn::Vec<D> b) {
   const Wide<D> wideA = widen(d, a), wideB = widen(d, b);
   const auto pairs =
       zip(dh, kQuarter < 2 ? wideA.lo : wideA.hi, kQuarter < 2 ? wideB.lo : wideB.hi);
-  const auto factors = hn::BitCast(dn, hn::Set(di, (-kTimes << 16) | kTimes));
+  const auto factors = hn::BitCast(dn, hn::Set(di, kTimes - kTimes * 65536));
   return multiplyAddPairs(di, hn::BitCast(dn, kQuarter % 2 == 0 ? pairs.lo : pairs.hi), factors);
 }
 
