@@ -171,6 +171,15 @@ constexpr std::array<Kel32f, kTileSteps> makeIdleSteps() {
 }
 constexpr std::array<Kel32f, kTileSteps> kIdleSteps = makeIdleSteps();
 
+// Asks for what the next tile will need of a row: the rows of all lanes are more than the processor
+// follows by itself.
+template <int kWrites>
+void fetchNext(const std::uint8_t* piece, std::size_t pixel) {
+  constexpr std::size_t kLine = 64;
+  for (std::size_t i = 0; i < kTileSteps * pixel; i += kLine)
+    __builtin_prefetch(piece + kTileSteps * pixel + i, kWrites);
+}
+
 // The chains that a thread works on.
 class Stream {
  public:
@@ -195,6 +204,7 @@ class Stream {
   }
   Tile tile();
   void makeRoom();
+  void fetch(const Place& from) const;
   void read();
   void write();
 
@@ -267,6 +277,15 @@ Tile Stream::tile() {
   return t;
 }
 
+void Stream::fetch(const Place& from) const {
+  const Images& images = plan_.images;
+  const std::ptrdiff_t row = static_cast<std::ptrdiff_t>(from.row);
+  const std::ptrdiff_t srcPixel = static_cast<std::ptrdiff_t>(images.srcPixel);
+  const std::ptrdiff_t dstPixel = static_cast<std::ptrdiff_t>(images.dstPixel);
+  fetchNext<0>(images.src + row * images.srcStep + from.column * srcPixel, images.srcPixel);
+  fetchNext<1>(images.dst + row * images.dstStep + from.column * dstPixel, images.dstPixel);
+}
+
 void Stream::read() {
   for (std::size_t lane = 0; lane < plan_.lanes(); ++lane) {
     Place place = places_[lane];
@@ -277,6 +296,7 @@ void Stream::read() {
         if (isIdle(plan_, from)) std::memcpy(planes[k], kIdleSteps.data(), n * sizeof(Kel32f));
       }
       if (isIdle(plan_, from)) return;
+      fetch(from);
       readValues(plan_.images, plan_.method, static_cast<std::size_t>(from.column), from.row, n,
                  planes);
     });
