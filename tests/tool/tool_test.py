@@ -301,7 +301,7 @@ class ToolTest(unittest.TestCase):
     def test_list(self):
         total = self.keli("list").stdout.splitlines()
         self.assertEqual(total[-1], f"{len(total) - 1} of {len(total) - 1} functions")
-        for pattern, count in [("SET_16S_c4", 3), ("kelicopy_8u_ac4*", 3), ("*_C?P?R", 6)]:
+        for pattern, count in [("SET_16S_c4", 3), ("kelicopy_8u_ac4*", 3), ("*copy*_C?P?R", 6)]:
             lines = self.keli(f"list {pattern}").stdout.splitlines()
             self.assertEqual(lines[-1], f"{count} of {len(total) - 1} functions", pattern)
             self.assertEqual(len(lines), count + 1)
