@@ -66,7 +66,8 @@ def status_header(statuses):
 
 def header(tables):
     out = [f"/* keli: image-processing primitives. {NOTE} */", "#ifndef KELI_H", "#define KELI_H", "",
-           '#include "keli_status.h"', '#include "keli_types.h"', "", "#ifdef __cplusplus",
+           '#include "keli_spec.h"', '#include "keli_status.h"',
+           '#include "keli_types.h"', "", "#ifdef __cplusplus",
            'extern "C" {', "#endif"]
     for table in tables:
         out += ["", f"/* ==== {table['title']} ==== */"]

@@ -11,7 +11,7 @@ from dataclasses import dataclass, field
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-TABLES = ["core", "data", "convert", "border", "mirror", "arith", "division", "complex", "math", "logic", "threshold", "compare", "sums", "extremes", "norms", "histogram", "box", "morphology", "remap", "luma", "hue", "cie", "dither"]
+TABLES = ["core", "data", "convert", "border", "mirror", "arith", "division", "complex", "math", "logic", "threshold", "compare", "sums", "extremes", "norms", "histogram", "box", "morphology", "remap", "luma", "hue", "cie", "dither", "fft", "dct"]
 
 # Names whose role needs no mention in a table; every other argument is written name:role[:type].
 ROLE_OF_NAME = {
@@ -38,6 +38,8 @@ CONSTANTS = {"constant": "", "shift": "32u", "lower": "", "upper": ""}
 # What a function writes beside images: one value for C1, an array of one for each channel
 # otherwise. Of counts and levels each channel has an array, as long as its number of levels says.
 RESULTS = {"result", "counts", "levelsOut"}
+# Specification structures, of a type that the argument names: read, released or made.
+SPECS = {"spec": "const {}*", "ownedSpec": "{}*", "specOut": "{}**"}
 LAYOUT = re.compile(r"A?[CP]\d")
 DESCRIPTOR = re.compile(r"((?:A?[CP]\d){1,2})(C?)(I?)(M?)(R?)(Sfs)?")
 TYPE_CODE = re.compile(r"\d+(?:uc|sc|fc|u|s|f)")
@@ -86,7 +88,7 @@ class Function:
     @property
     def operation(self):
         """The name up to the types: of keliThreshold_GT_8u_C1R it is Threshold_GT."""
-        return re.match(r"keli(.+?)(?=_\d|$)", self.name)[1]
+        return re.match(r"keli(.+?)(?=_\d+[usf]|$)", self.name)[1]
 
     @property
     def reach(self):
@@ -137,6 +139,8 @@ def make_argument(word, types, layouts):
     role, _, given = rest.partition(":")
     role = role or ROLE_OF_NAME.get(name) or ("step" if name.endswith("Step") else "")
     first, last = types[0] if types else "", types[-1] if types else ""
+    if role in SPECS:
+        return Argument(name, role, SPECS[role].format(given), "")
     given, _, layout_given = given.partition("_")
     if role in ("source", "sourceChannel"):
         code, layout, const = given or first, layouts[0], "const "
@@ -171,6 +175,7 @@ def make_argument(word, types, layouts):
         "roundMode": ("KelRoundMode", ""), "bitOffset": ("int", ""),
         "rangeMin": ("Kel32f", ""), "rangeMax": ("Kel32f", ""), "noise": ("int", ""),
         "dither": ("int", ""), "grayLevels": ("int", ""),
+        "sizeOut": ("int*", ""), "buffer": ("void*", ""), "number": ("int", ""),
     }
     if role not in fixed:
         raise SystemExit(f"argument '{word}': unknown role '{role}'")
@@ -203,7 +208,9 @@ def in_place_words(line):
     last = sources[-1]
     gone = [i for i, w in enumerate(items) if w.split(":")[0] in ("pDst", "dstStep")]
     first = [w for w in items[:gone[0]] if w.split(":")[0] == "value"]
-    items[last], items[last + 1] = "pSrcDst", "srcDstStep"
+    items[last] = "pSrcDst"
+    if items[last + 1].endswith("Step"):  # blocks have none
+        items[last + 1] = "srcDstStep"
     if len(sources) == 2:
         items[sources[0]], items[sources[0] + 1] = "pSrc", "srcStep"
     kept = [w for i, w in enumerate(items) if i not in gone]
@@ -229,8 +236,10 @@ def in_place_actuals(line):
 
 def null_condition(function):
     late = "values" in function.entry.get("checks", "").split()
+    earlier = "nullSpec" in function.entry.get("checks", "").split()
     pointers = [a for a in function.arguments
-                if a.pointer and not (late and a.role in CONSTANTS)]
+                if a.pointer and not (late and a.role in CONSTANTS) and a.role != "buffer"
+                and not (earlier and a.role == "spec")]
     parts = [f"anyNull({', '.join(a.name for a in pointers)})"]
     parts += [f"anyPlaneNull<{a.layout[-1]}>({a.name})" for a in pointers if a.planar]
     return " || ".join(parts)
@@ -342,6 +351,10 @@ CHECKS = {
               lambda f: f"badRemapSizes({all_of(f, 'sourceRegion', 'sourceRect', 'region')})"),
     "interpolation": ("kelStatusBadInterpolation", "interpolation is none of the modes",
                       lambda f: f"badInterpolation({names_of(f, 'interpolation')})"),
+    "nullSpec": ("kelStatusNullPointer", "pSpec is null",
+                 lambda f: f"anyNull({names_of(f, 'spec')})"),
+    "spec": ("kelStatusBadSpec", "pSpec is not of the kind that the function takes",
+             lambda f: f"fft::badSpec({names_of(f, 'spec')})"),
     "noise": ("kelStatusBadNoise", "dither is a method and noise is outside 0..100",
               lambda f: f"badNoise({all_of(f, 'dither', 'noise')})"),
     "grayLevels": ("kelStatusBadLevelCount",
@@ -364,7 +377,10 @@ def expand(entry):
     line = entry["arguments"]
     for name in entry.get("names", []):
         f = Function(name, entry, [], [], returns=returns)
-        f.arguments = [make_argument(w, [], []) for w in line.split()]
+        # keliFFTFree_R_32f: R_32f; keliDCTInvFree_32f: Inv
+        form, way = name.partition("_")[2], name[7:10]
+        words = line.replace("{form}", form).replace("{way}", way).split()
+        f.arguments = [make_argument(w, [], []) for w in words]
         f.actuals = [a.name for a in f.arguments if a.role != "unread"]
         yield f
     for member in entry.get("members", []):

@@ -38,8 +38,10 @@ bool Frame::takes(Role role) const {
   return false;
 }
 
-// Of sources whose borders are made, what is left of the row's size.
+// Of sources whose borders are made, what is left of the row's size; of blocks, one row.
 Size Frame::sizeOf(const Argument& argument) const {
+  const std::ptrdiff_t index = &argument - function_.arguments.data;
+  if (registry::isBlock(function_, static_cast<std::size_t>(index))) return {64, 1, 0};
   if (argument.role != Role::kSource || !takes(Role::kTopBorder)) return size_;
   return {size_.width - 2 * choices_.border, size_.height - 2 * choices_.border, size_.padding};
 }
@@ -195,6 +197,16 @@ void Frame::addConstant(const Argument& argument) {
   values_.push_back(value);
 }
 
+// A transform's specification and, as its last argument, scratch memory.
+void Frame::addSpec() {
+  spec_ =
+      std::make_unique<registry::TransformSpec>(function_, KeliSize{size_.width, size_.height}, 2);
+  if (spec_->get() == nullptr) throw std::runtime_error("no specification for this size");
+  Value value{};
+  value.p = spec_->get();
+  values_.push_back(value);
+}
+
 void Frame::addArgument(const Argument& argument) {
   Value value{};
   switch (argument.role) {
@@ -255,6 +267,12 @@ void Frame::addArgument(const Argument& argument) {
       break;
     case Role::kBitOffset:
       value.i = choices_.bitOffset;
+      break;
+    case Role::kSpec:
+      return addSpec();
+    case Role::kBuffer:
+      value.p =
+          addArray(static_cast<std::size_t>(spec_->scratchBytes()) / sizeof(std::uint64_t) + 1);
       break;
     case Role::kNoise:
       value.i = choices_.noise;

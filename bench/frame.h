@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "image.h"
+#include "registry/transform_spec.h"
 
 namespace keli::bench {
 
@@ -61,6 +62,7 @@ class Frame {
   void addResult(const registry::Argument& argument);
   void addPerChannel(const registry::Argument& argument);
   void addNumber(const registry::Argument& argument, double number);
+  void addSpec();
   void* addArray(std::size_t count);
   double least() const;
   double most() const;
@@ -75,6 +77,7 @@ class Frame {
   std::vector<std::unique_ptr<std::uint64_t[]>> arrays_;
   std::vector<registry::Value> values_;
   const std::uint8_t* element_ = nullptr;
+  std::unique_ptr<registry::TransformSpec> spec_;
   int lastStep_ = 0;
   struct Result {
     registry::Type type;

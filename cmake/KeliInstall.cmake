@@ -4,7 +4,8 @@ include(CMakePackageConfigHelpers)
 install(TARGETS keli keli_static EXPORT keliTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(FILES include/keli.h include/keli_status.h include/keli_types.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(FILES include/keli.h include/keli_spec.h include/keli_status.h include/keli_types.h
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(EXPORT keliTargets NAMESPACE keli:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/keli)
 
 configure_package_config_file(cmake/keliConfig.cmake.in keliConfig.cmake

@@ -2,6 +2,7 @@
 #ifndef KELI_H
 #define KELI_H
 
+#include "keli_spec.h"
 #include "keli_status.h"
 #include "keli_types.h"
 
@@ -4287,6 +4288,608 @@ KELI_API KelStatus keliReduceBits_32f16s_C1R(const Kel32f* pSrc, int srcStep, Ke
 KELI_API KelStatus keliReduceBits_32f16s_C3R(const Kel32f* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
 KELI_API KelStatus keliReduceBits_32f16s_C4R(const Kel32f* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
 KELI_API KelStatus keliReduceBits_32f16s_AC4R(const Kel32f* pSrc, int srcStep, Kel16s* pDst, int dstStep, KeliSize roiSize, int noise, int dither, int levels);
+
+/* ==== Fourier transforms ==== */
+
+/**
+ * Makes the specification of fast Fourier transforms: of complex images, of real ones, and of
+ * bytes with spectra of integers.
+ *
+ * Writes the address of a new structure through ppSpec, to be released by keliFFTFree of the
+ * same form. Images are 2^orderX pixels wide and 2^orderY high.
+ *
+ * flag tells which transforms are divided, N being the number of pixels: 1 the forward one by
+ * N, 2 the inverse one by N, 4 both by the square root of N, 8 neither. Rows and columns have
+ * factors of their own, the reciprocals of the sides or of their square roots, each rounded to
+ * single precision. hint is stored and changes no result.
+ *
+ * Checks, in order: kelStatusNullPointer if ppSpec is null; kelStatusBadOrder if an order is
+ * outside 0..30; kelStatusNoMemory; kelStatusBadFlag if flag is not 1, 2, 4 or 8;
+ * kelStatusNoMemory again, which also tells that the scratch memory of a transform would not be
+ * below 2^31 bytes. Nothing is written then.
+ */
+KELI_API KelStatus keliFFTInitAlloc_C_32fc(KeliFFTSpec_C_32fc** ppSpec, int orderX, int orderY, int flag, KelHintAlgorithm hint);
+KELI_API KelStatus keliFFTInitAlloc_R_32f(KeliFFTSpec_R_32f** ppSpec, int orderX, int orderY, int flag, KelHintAlgorithm hint);
+KELI_API KelStatus keliFFTInitAlloc_R_32s(KeliFFTSpec_R_32s** ppSpec, int orderX, int orderY, int flag, KelHintAlgorithm hint);
+
+/**
+ * Tells how many bytes of scratch memory a transform needs.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSpec if pSpec is of
+ * another kind.
+ */
+KELI_API KelStatus keliFFTGetBufSize_C_32fc(const KeliFFTSpec_C_32fc* pSpec, int* pSize);
+KELI_API KelStatus keliFFTGetBufSize_R_32f(const KeliFFTSpec_R_32f* pSpec, int* pSize);
+KELI_API KelStatus keliFFTGetBufSize_R_32s(const KeliFFTSpec_R_32s* pSpec, int* pSize);
+
+/**
+ * Releases a specification.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if it is of another
+ * kind.
+ */
+KELI_API KelStatus keliFFTFree_C_32fc(KeliFFTSpec_C_32fc* pSpec);
+KELI_API KelStatus keliFFTFree_R_32f(KeliFFTSpec_R_32f* pSpec);
+KELI_API KelStatus keliFFTFree_R_32s(KeliFFTSpec_R_32s* pSpec);
+
+/**
+ * Makes the specification of Fourier transforms: of complex images, of real ones, and of bytes
+ * with spectra of integers.
+ *
+ * Writes the address of a new structure through ppSpec, to be released by keliDFTFree of the
+ * same form. Images are of roiSize, of any width and height; the cost grows as n log n with
+ * each, primes included.
+ *
+ * flag tells which transforms are divided, N being the number of pixels: 1 the forward one by
+ * N, 2 the inverse one by N, 4 both by the square root of N, 8 neither. Rows and columns have
+ * factors of their own, the reciprocals of the sides or of their square roots, each rounded to
+ * single precision. hint is stored and changes no result.
+ *
+ * Checks, in order: kelStatusNullPointer if ppSpec is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusNoMemory; kelStatusBadFlag if flag is not 1, 2, 4 or 8;
+ * kelStatusNoMemory again, which also tells that the scratch memory of a transform would not be
+ * below 2^31 bytes. Nothing is written then.
+ */
+KELI_API KelStatus keliDFTInitAlloc_C_32fc(KeliDFTSpec_C_32fc** ppSpec, KeliSize roiSize, int flag, KelHintAlgorithm hint);
+KELI_API KelStatus keliDFTInitAlloc_R_32f(KeliDFTSpec_R_32f** ppSpec, KeliSize roiSize, int flag, KelHintAlgorithm hint);
+KELI_API KelStatus keliDFTInitAlloc_R_32s(KeliDFTSpec_R_32s** ppSpec, KeliSize roiSize, int flag, KelHintAlgorithm hint);
+
+/**
+ * Tells how many bytes of scratch memory a transform needs.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSpec if pSpec is of
+ * another kind.
+ */
+KELI_API KelStatus keliDFTGetBufSize_C_32fc(const KeliDFTSpec_C_32fc* pSpec, int* pSize);
+KELI_API KelStatus keliDFTGetBufSize_R_32f(const KeliDFTSpec_R_32f* pSpec, int* pSize);
+KELI_API KelStatus keliDFTGetBufSize_R_32s(const KeliDFTSpec_R_32s* pSpec, int* pSize);
+
+/**
+ * Releases a specification.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if it is of another
+ * kind.
+ */
+KELI_API KelStatus keliDFTFree_C_32fc(KeliDFTSpec_C_32fc* pSpec);
+KELI_API KelStatus keliDFTFree_R_32f(KeliDFTSpec_R_32f* pSpec);
+KELI_API KelStatus keliDFTFree_R_32s(KeliDFTSpec_R_32s* pSpec);
+
+/**
+ * Transforms a complex image to its spectrum.
+ *
+ *     dst(u, v) = c * sum over x, y of src(x, y) * exp(-2 pi i (u x / width + v y / height))
+ *
+ * The factor c is that of the specification's flag. Sums are in single precision. pBuffer is
+ * scratch memory of the bytes that keliFFTGetBufSize_C_32fc tells, at any address, or null,
+ * which makes the call allocate it and release it, or return kelStatusNoMemory with nothing
+ * written. Any number of calls may use one specification at once, each with its own scratch.
+ * Source and destination may be the same image where samples have one type. Results do not
+ * depend on the caller's rounding mode; those that are not numbers are the quiet NaN
+ * 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if pSpec is not of
+ * the kind that the function takes; kelStatusNullPointer if a pointer is null; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliFFTFwd_CToC_32fc_C1R(const Kel32fc* pSrc, int srcStep, Kel32fc* pDst, int dstStep, const KeliFFTSpec_C_32fc* pSpec, void* pBuffer);
+
+/**
+ * Transforms a real image to its packed spectrum.
+ *
+ *     F(u, v) = c * sum over x, y of src(x, y) * exp(-2 pi i (u x / width + v y / height))
+ *
+ * The packed spectrum is an image of the same size. With F(u, v) for the frequencies u of rows
+ * and v of columns, a real sequence of n has the packed order Re F(0), Re F(1), Im F(1), Re
+ * F(2), Im F(2), ..., which for even n ends with Re F(n/2). Columns 2u - 1 and 2u hold Re F(u,
+ * v) and Im F(u, v) in row v, for 0 < u < width / 2. Column 0, and for an even width the last
+ * column, hold the real sequences' spectra F(0, v) and F(width/2, v) of v in packed order. Each
+ * channel is transformed by itself. AC4 leaves the fourth sample of every destination pixel as
+ * it was. The factor c is that of the specification's flag. Sums are in single precision.
+ * pBuffer is scratch memory of the bytes that keliFFTGetBufSize_R_32f tells, at any address, or
+ * null, which makes the call allocate it and release it, or return kelStatusNoMemory with
+ * nothing written. Any number of calls may use one specification at once, each with its own
+ * scratch. Source and destination may be the same image where samples have one type. Results do
+ * not depend on the caller's rounding mode; those that are not numbers are the quiet NaN
+ * 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if pSpec is not of
+ * the kind that the function takes; kelStatusNullPointer if a pointer is null; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliFFTFwd_RToPack_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliFFTSpec_R_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliFFTFwd_RToPack_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliFFTSpec_R_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliFFTFwd_RToPack_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliFFTSpec_R_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliFFTFwd_RToPack_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliFFTSpec_R_32f* pSpec, void* pBuffer);
+
+/**
+ * Transforms an image of bytes to its packed spectrum of scaled integers.
+ *
+ *     dst = F * 2^-scaleFactor, with F as in keliFFTFwd_RToPack_32f_C1R
+ *
+ * Samples are converted to 32f and transformed; results are multiplied by 2^-scaleFactor,
+ * rounded to the nearest integer, ties to even, and saturated. Layouts are those of the 32f
+ * functions. pBuffer is scratch memory of the bytes that keliFFTGetBufSize_R_32s tells, at any
+ * address, or null, which makes the call allocate it and release it, or return
+ * kelStatusNoMemory with nothing written. Any number of calls may use one specification at
+ * once, each with its own scratch. Source and destination may be the same image where samples
+ * have one type. Results do not depend on the caller's rounding mode; those that are not
+ * numbers are the quiet NaN 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if pSpec is not of
+ * the kind that the function takes; kelStatusNullPointer if a pointer is null; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliFFTFwd_RToPack_8u32s_C1RSfs(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, const KeliFFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+KELI_API KelStatus keliFFTFwd_RToPack_8u32s_C3RSfs(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, const KeliFFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+KELI_API KelStatus keliFFTFwd_RToPack_8u32s_C4RSfs(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, const KeliFFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+KELI_API KelStatus keliFFTFwd_RToPack_8u32s_AC4RSfs(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, const KeliFFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+
+/**
+ * Transforms a complex image back from its spectrum.
+ *
+ *     dst(x, y) = c * sum over u, v of src(u, v) * exp(+2 pi i (u x / width + v y / height))
+ *
+ * The factor c is that of the specification's flag. Sums are in single precision. pBuffer is
+ * scratch memory of the bytes that keliFFTGetBufSize_C_32fc tells, at any address, or null,
+ * which makes the call allocate it and release it, or return kelStatusNoMemory with nothing
+ * written. Any number of calls may use one specification at once, each with its own scratch.
+ * Source and destination may be the same image where samples have one type. Results do not
+ * depend on the caller's rounding mode; those that are not numbers are the quiet NaN
+ * 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if pSpec is not of
+ * the kind that the function takes; kelStatusNullPointer if a pointer is null; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliFFTInv_CToC_32fc_C1R(const Kel32fc* pSrc, int srcStep, Kel32fc* pDst, int dstStep, const KeliFFTSpec_C_32fc* pSpec, void* pBuffer);
+
+/**
+ * Transforms a packed spectrum back to a real image.
+ *
+ *     dst(x, y) = c * sum over u, v of F(u, v) * exp(+2 pi i (u x / width + v y / height))
+ *
+ * The packed spectrum is an image of the same size. With F(u, v) for the frequencies u of rows
+ * and v of columns, a real sequence of n has the packed order Re F(0), Re F(1), Im F(1), Re
+ * F(2), Im F(2), ..., which for even n ends with Re F(n/2). Columns 2u - 1 and 2u hold Re F(u,
+ * v) and Im F(u, v) in row v, for 0 < u < width / 2. Column 0, and for an even width the last
+ * column, hold the real sequences' spectra F(0, v) and F(width/2, v) of v in packed order. Each
+ * channel is transformed by itself. AC4 leaves the fourth sample of every destination pixel as
+ * it was. The factor c is that of the specification's flag. Sums are in single precision.
+ * pBuffer is scratch memory of the bytes that keliFFTGetBufSize_R_32f tells, at any address, or
+ * null, which makes the call allocate it and release it, or return kelStatusNoMemory with
+ * nothing written. Any number of calls may use one specification at once, each with its own
+ * scratch. Source and destination may be the same image where samples have one type. Results do
+ * not depend on the caller's rounding mode; those that are not numbers are the quiet NaN
+ * 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if pSpec is not of
+ * the kind that the function takes; kelStatusNullPointer if a pointer is null; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliFFTInv_PackToR_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliFFTSpec_R_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliFFTInv_PackToR_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliFFTSpec_R_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliFFTInv_PackToR_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliFFTSpec_R_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliFFTInv_PackToR_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliFFTSpec_R_32f* pSpec, void* pBuffer);
+
+/**
+ * Transforms a packed spectrum of integers back to an image of bytes.
+ *
+ *     dst = F * 2^-scaleFactor, with F as in keliFFTInv_PackToR_32f_C1R
+ *
+ * Samples are converted to 32f and transformed; results are multiplied by 2^-scaleFactor,
+ * rounded to the nearest integer, ties to even, and saturated. Layouts are those of the 32f
+ * functions. pBuffer is scratch memory of the bytes that keliFFTGetBufSize_R_32s tells, at any
+ * address, or null, which makes the call allocate it and release it, or return
+ * kelStatusNoMemory with nothing written. Any number of calls may use one specification at
+ * once, each with its own scratch. Source and destination may be the same image where samples
+ * have one type. Results do not depend on the caller's rounding mode; those that are not
+ * numbers are the quiet NaN 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if pSpec is not of
+ * the kind that the function takes; kelStatusNullPointer if a pointer is null; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliFFTInv_PackToR_32s8u_C1RSfs(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, const KeliFFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+KELI_API KelStatus keliFFTInv_PackToR_32s8u_C3RSfs(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, const KeliFFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+KELI_API KelStatus keliFFTInv_PackToR_32s8u_C4RSfs(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, const KeliFFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+KELI_API KelStatus keliFFTInv_PackToR_32s8u_AC4RSfs(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, const KeliFFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+
+/**
+ * Transforms a complex image to its spectrum.
+ *
+ *     dst(u, v) = c * sum over x, y of src(x, y) * exp(-2 pi i (u x / width + v y / height))
+ *
+ * The factor c is that of the specification's flag. Sums are in single precision. pBuffer is
+ * scratch memory of the bytes that keliDFTGetBufSize_C_32fc tells, at any address, or null,
+ * which makes the call allocate it and release it, or return kelStatusNoMemory with nothing
+ * written. Any number of calls may use one specification at once, each with its own scratch.
+ * Source and destination may be the same image where samples have one type. Results do not
+ * depend on the caller's rounding mode; those that are not numbers are the quiet NaN
+ * 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if pSpec is not of
+ * the kind that the function takes; kelStatusNullPointer if a pointer is null; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliDFTFwd_CToC_32fc_C1R(const Kel32fc* pSrc, int srcStep, Kel32fc* pDst, int dstStep, const KeliDFTSpec_C_32fc* pSpec, void* pBuffer);
+
+/**
+ * Transforms a real image to its packed spectrum.
+ *
+ *     F(u, v) = c * sum over x, y of src(x, y) * exp(-2 pi i (u x / width + v y / height))
+ *
+ * The packed spectrum is an image of the same size. With F(u, v) for the frequencies u of rows
+ * and v of columns, a real sequence of n has the packed order Re F(0), Re F(1), Im F(1), Re
+ * F(2), Im F(2), ..., which for even n ends with Re F(n/2). Columns 2u - 1 and 2u hold Re F(u,
+ * v) and Im F(u, v) in row v, for 0 < u < width / 2. Column 0, and for an even width the last
+ * column, hold the real sequences' spectra F(0, v) and F(width/2, v) of v in packed order. Each
+ * channel is transformed by itself. AC4 leaves the fourth sample of every destination pixel as
+ * it was. The factor c is that of the specification's flag. Sums are in single precision.
+ * pBuffer is scratch memory of the bytes that keliDFTGetBufSize_R_32f tells, at any address, or
+ * null, which makes the call allocate it and release it, or return kelStatusNoMemory with
+ * nothing written. Any number of calls may use one specification at once, each with its own
+ * scratch. Source and destination may be the same image where samples have one type. Results do
+ * not depend on the caller's rounding mode; those that are not numbers are the quiet NaN
+ * 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if pSpec is not of
+ * the kind that the function takes; kelStatusNullPointer if a pointer is null; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliDFTFwd_RToPack_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDFTSpec_R_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliDFTFwd_RToPack_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDFTSpec_R_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliDFTFwd_RToPack_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDFTSpec_R_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliDFTFwd_RToPack_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDFTSpec_R_32f* pSpec, void* pBuffer);
+
+/**
+ * Transforms an image of bytes to its packed spectrum of scaled integers.
+ *
+ *     dst = F * 2^-scaleFactor, with F as in keliDFTFwd_RToPack_32f_C1R
+ *
+ * Samples are converted to 32f and transformed; results are multiplied by 2^-scaleFactor,
+ * rounded to the nearest integer, ties to even, and saturated. Layouts are those of the 32f
+ * functions. pBuffer is scratch memory of the bytes that keliDFTGetBufSize_R_32s tells, at any
+ * address, or null, which makes the call allocate it and release it, or return
+ * kelStatusNoMemory with nothing written. Any number of calls may use one specification at
+ * once, each with its own scratch. Source and destination may be the same image where samples
+ * have one type. Results do not depend on the caller's rounding mode; those that are not
+ * numbers are the quiet NaN 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if pSpec is not of
+ * the kind that the function takes; kelStatusNullPointer if a pointer is null; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliDFTFwd_RToPack_8u32s_C1RSfs(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, const KeliDFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+KELI_API KelStatus keliDFTFwd_RToPack_8u32s_C3RSfs(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, const KeliDFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+KELI_API KelStatus keliDFTFwd_RToPack_8u32s_C4RSfs(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, const KeliDFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+KELI_API KelStatus keliDFTFwd_RToPack_8u32s_AC4RSfs(const Kel8u* pSrc, int srcStep, Kel32s* pDst, int dstStep, const KeliDFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+
+/**
+ * Transforms a complex image back from its spectrum.
+ *
+ *     dst(x, y) = c * sum over u, v of src(u, v) * exp(+2 pi i (u x / width + v y / height))
+ *
+ * The factor c is that of the specification's flag. Sums are in single precision. pBuffer is
+ * scratch memory of the bytes that keliDFTGetBufSize_C_32fc tells, at any address, or null,
+ * which makes the call allocate it and release it, or return kelStatusNoMemory with nothing
+ * written. Any number of calls may use one specification at once, each with its own scratch.
+ * Source and destination may be the same image where samples have one type. Results do not
+ * depend on the caller's rounding mode; those that are not numbers are the quiet NaN
+ * 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if pSpec is not of
+ * the kind that the function takes; kelStatusNullPointer if a pointer is null; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliDFTInv_CToC_32fc_C1R(const Kel32fc* pSrc, int srcStep, Kel32fc* pDst, int dstStep, const KeliDFTSpec_C_32fc* pSpec, void* pBuffer);
+
+/**
+ * Transforms a packed spectrum back to a real image.
+ *
+ *     dst(x, y) = c * sum over u, v of F(u, v) * exp(+2 pi i (u x / width + v y / height))
+ *
+ * The packed spectrum is an image of the same size. With F(u, v) for the frequencies u of rows
+ * and v of columns, a real sequence of n has the packed order Re F(0), Re F(1), Im F(1), Re
+ * F(2), Im F(2), ..., which for even n ends with Re F(n/2). Columns 2u - 1 and 2u hold Re F(u,
+ * v) and Im F(u, v) in row v, for 0 < u < width / 2. Column 0, and for an even width the last
+ * column, hold the real sequences' spectra F(0, v) and F(width/2, v) of v in packed order. Each
+ * channel is transformed by itself. AC4 leaves the fourth sample of every destination pixel as
+ * it was. The factor c is that of the specification's flag. Sums are in single precision.
+ * pBuffer is scratch memory of the bytes that keliDFTGetBufSize_R_32f tells, at any address, or
+ * null, which makes the call allocate it and release it, or return kelStatusNoMemory with
+ * nothing written. Any number of calls may use one specification at once, each with its own
+ * scratch. Source and destination may be the same image where samples have one type. Results do
+ * not depend on the caller's rounding mode; those that are not numbers are the quiet NaN
+ * 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if pSpec is not of
+ * the kind that the function takes; kelStatusNullPointer if a pointer is null; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliDFTInv_PackToR_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDFTSpec_R_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliDFTInv_PackToR_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDFTSpec_R_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliDFTInv_PackToR_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDFTSpec_R_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliDFTInv_PackToR_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDFTSpec_R_32f* pSpec, void* pBuffer);
+
+/**
+ * Transforms a packed spectrum of integers back to an image of bytes.
+ *
+ *     dst = F * 2^-scaleFactor, with F as in keliDFTInv_PackToR_32f_C1R
+ *
+ * Samples are converted to 32f and transformed; results are multiplied by 2^-scaleFactor,
+ * rounded to the nearest integer, ties to even, and saturated. Layouts are those of the 32f
+ * functions. pBuffer is scratch memory of the bytes that keliDFTGetBufSize_R_32s tells, at any
+ * address, or null, which makes the call allocate it and release it, or return
+ * kelStatusNoMemory with nothing written. Any number of calls may use one specification at
+ * once, each with its own scratch. Source and destination may be the same image where samples
+ * have one type. Results do not depend on the caller's rounding mode; those that are not
+ * numbers are the quiet NaN 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if pSpec is not of
+ * the kind that the function takes; kelStatusNullPointer if a pointer is null; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliDFTInv_PackToR_32s8u_C1RSfs(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, const KeliDFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+KELI_API KelStatus keliDFTInv_PackToR_32s8u_C3RSfs(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, const KeliDFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+KELI_API KelStatus keliDFTInv_PackToR_32s8u_C4RSfs(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, const KeliDFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+KELI_API KelStatus keliDFTInv_PackToR_32s8u_AC4RSfs(const Kel32s* pSrc, int srcStep, Kel8u* pDst, int dstStep, const KeliDFTSpec_R_32s* pSpec, int scaleFactor, void* pBuffer);
+
+/* ==== Cosine transforms of images and of 8 x 8 blocks, zigzag order ==== */
+
+/**
+ * Transforms a block of 8 x 8 samples to its cosine coefficients.
+ *
+ *     F(u, v) = C(u) C(v) sum over x, y of f(x, y) cos((2x + 1) u pi / 16) cos((2y + 1) v pi / 16)
+ *
+ * C(0) is the square root of 1/8 and C(k) is 1/2 for k > 0: the orthonormal transform of type
+ * II in both dimensions. F(0, 0) is an eighth of the block's sum. A block is 64 contiguous
+ * samples at any address, row after row: f(x, y) stands at 8 y + x and F(u, v) at 8 v + u.
+ *
+ * Sums and products are in single precision, rows before columns, by the factorisation of Arai,
+ * Agui and Nakajima ("A fast DCT-SQ scheme for images", 1988). 16s results are rounded to the
+ * nearest integer, ties to even, and saturated; every block of any 16-bit samples has each of
+ * its coefficients within one unit of the exact value so rounded. 32f results that are not
+ * numbers are the quiet NaN 0x7FC00000. Source and destination may be the same block. Results
+ * do not depend on the caller's rounding mode.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null.
+ */
+KELI_API KelStatus keliDCT8x8Fwd_16s_C1(const Kel16s* pSrc, Kel16s* pDst);
+KELI_API KelStatus keliDCT8x8Fwd_16s_C1I(Kel16s* pSrcDst);
+KELI_API KelStatus keliDCT8x8Fwd_32f_C1(const Kel32f* pSrc, Kel32f* pDst);
+KELI_API KelStatus keliDCT8x8Fwd_32f_C1I(Kel32f* pSrcDst);
+
+/**
+ * Transforms 8 x 8 pixels of an image to a block of cosine coefficients.
+ *
+ *     F(u, v) as in keliDCT8x8Fwd_16s_C1
+ *
+ * srcStep is the distance of the image's rows in bytes. The destination is 64 contiguous
+ * samples at any address. Results are those of keliDCT8x8Fwd_16s_C1 for the same samples.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1.
+ */
+KELI_API KelStatus keliDCT8x8Fwd_16s_C1R(const Kel16s* pSrc, int srcStep, Kel16s* pDst);
+KELI_API KelStatus keliDCT8x8Fwd_8u16s_C1R(const Kel8u* pSrc, int srcStep, Kel16s* pDst);
+
+/**
+ * Transforms 8 x 8 pixels of an image, shifted in level, to a block of cosine coefficients.
+ *
+ *     F(u, v) as in keliDCT8x8Fwd_16s_C1, of src + levelShift
+ *
+ * Any levelShift may be given (codecs take -128): sums are exact and do not wrap. srcStep is
+ * the distance of the image's rows in bytes. The destination is 64 contiguous samples at any
+ * address, rounded and saturated as those of keliDCT8x8Fwd_16s_C1 are.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1.
+ */
+KELI_API KelStatus keliDCT8x8FwdLS_8u16s_C1R(const Kel8u* pSrc, int srcStep, Kel16s* pDst, Kel16s levelShift);
+
+/**
+ * Transforms a block of 8 x 8 cosine coefficients back to samples.
+ *
+ *     f(x, y) = sum over u, v of C(u) C(v) F(u, v) cos((2x + 1) u pi / 16) cos((2y + 1) v pi / 16)
+ *
+ * C(0) is the square root of 1/8 and C(k) is 1/2 for k > 0: the inverse of keliDCT8x8Fwd. A
+ * block is 64 contiguous samples at any address, in the order given there.
+ *
+ * Sums and products are in single precision. 16s results are rounded to the nearest integer,
+ * ties to even, and saturated; every block of any 16-bit coefficients has each of its samples
+ * within one unit of the exact value so rounded, and the accuracy that IEEE 1180-1990 asks of
+ * inverse transforms is kept. 32f results that are not numbers are the quiet NaN 0x7FC00000.
+ * Source and destination may be the same block. Results do not depend on the caller's rounding
+ * mode.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null.
+ */
+KELI_API KelStatus keliDCT8x8Inv_16s_C1(const Kel16s* pSrc, Kel16s* pDst);
+KELI_API KelStatus keliDCT8x8Inv_16s_C1I(Kel16s* pSrcDst);
+KELI_API KelStatus keliDCT8x8Inv_32f_C1(const Kel32f* pSrc, Kel32f* pDst);
+KELI_API KelStatus keliDCT8x8Inv_32f_C1I(Kel32f* pSrcDst);
+
+/**
+ * Transforms a block of 8 x 8 cosine coefficients back to pixels of an image.
+ *
+ *     f(x, y) as in keliDCT8x8Inv_16s_C1
+ *
+ * dstStep is the distance of the image's rows in bytes. The source is 64 contiguous samples at
+ * any address. Results are those of keliDCT8x8Inv_16s_C1 for the same coefficients, for 8u
+ * saturated to 0..255.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1.
+ */
+KELI_API KelStatus keliDCT8x8Inv_16s_C1R(const Kel16s* pSrc, Kel16s* pDst, int dstStep);
+KELI_API KelStatus keliDCT8x8Inv_16s8u_C1R(const Kel16s* pSrc, Kel8u* pDst, int dstStep);
+
+/**
+ * Transforms a block of 8 x 8 cosine coefficients back to pixels, shifted in level and clamped.
+ *
+ *     dst = min(max(f + levelShift, clipDown), clipUp), with f(x, y) as in keliDCT8x8Inv_16s_C1
+ *
+ * Any levelShift may be given (codecs take 128): sums do not wrap; f is saturated to 16 bits
+ * before. If clipDown is above clipUp, all pixels become clipUp. dstStep is the distance of the
+ * image's rows in bytes. The source is 64 contiguous samples at any address.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadStep if a step is
+ * below 1.
+ */
+KELI_API KelStatus keliDCT8x8InvLSClip_16s8u_C1R(const Kel16s* pSrc, Kel8u* pDst, int dstStep, Kel16s levelShift, Kel8u clipDown, Kel8u clipUp);
+
+/**
+ * Transforms a block of which only the first 4 x 4 cosine coefficients count back to samples.
+ *
+ *     f(x, y) as in keliDCT8x8Inv_16s_C1, with F(u, v) = 0 for u > 3 or v > 3
+ *
+ * The other coefficients may hold anything. Results equal those of keliDCT8x8Inv_16s_C1 for
+ * zeros in their places. Source and destination may be the same block.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null.
+ */
+KELI_API KelStatus keliDCT8x8Inv_4x4_16s_C1(const Kel16s* pSrc, Kel16s* pDst);
+KELI_API KelStatus keliDCT8x8Inv_4x4_16s_C1I(Kel16s* pSrcDst);
+
+/**
+ * Transforms a block of which only the first 2 x 2 cosine coefficients count back to samples.
+ *
+ *     f(x, y) as in keliDCT8x8Inv_16s_C1, with F(u, v) = 0 for u > 1 or v > 1
+ *
+ * The other coefficients may hold anything. Results equal those of keliDCT8x8Inv_16s_C1 for
+ * zeros in their places. Source and destination may be the same block.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null.
+ */
+KELI_API KelStatus keliDCT8x8Inv_2x2_16s_C1(const Kel16s* pSrc, Kel16s* pDst);
+KELI_API KelStatus keliDCT8x8Inv_2x2_16s_C1I(Kel16s* pSrcDst);
+
+/**
+ * Brings a block of 8 x 8 coefficients from the order of rows to zigzag order.
+ *
+ *     dst[i] = src[z(i)], z = 0, 1, 8, 16, 9, 2, 3, 10, 17, 24, 32, 25, ..., 55, 62, 63
+ *
+ * Zigzag order is that of ITU-T T.81, figure A.6: along the diagonals of the block from its
+ * first coefficient on, by turns up and down. A block is 64 contiguous samples at any address.
+ * Source and destination must not overlap.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null.
+ */
+KELI_API KelStatus keliZigzagFwd8x8_16s_C1(const Kel16s* pSrc, Kel16s* pDst);
+
+/**
+ * Brings a block of 8 x 8 coefficients from zigzag order to the order of rows.
+ *
+ *     dst[z(i)] = src[i], with z as in keliZigzagFwd8x8_16s_C1
+ *
+ * The inverse of keliZigzagFwd8x8_16s_C1. A block is 64 contiguous samples at any address.
+ * Source and destination must not overlap.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null.
+ */
+KELI_API KelStatus keliZigzagInv8x8_16s_C1(const Kel16s* pSrc, Kel16s* pDst);
+
+/**
+ * Makes the specification of cosine transforms of images of one size, forward or inverse.
+ *
+ * Writes the address of a new structure through ppSpec, to be released by keliDCTFwdFree_32f or
+ * keliDCTInvFree_32f. Images are of roiSize, of any width and height; the cost grows as n log n
+ * with each, primes included. hint is stored and changes no result.
+ *
+ * Checks, in order: kelStatusNullPointer if ppSpec is null; kelStatusBadSize if roiSize is
+ * below 1 in width or height; kelStatusNoMemory, which also tells that the scratch memory of a
+ * transform would not be below 2^31 bytes. Nothing is written then.
+ */
+KELI_API KelStatus keliDCTFwdInitAlloc_32f(KeliDCTFwdSpec_32f** ppSpec, KeliSize roiSize, KelHintAlgorithm hint);
+KELI_API KelStatus keliDCTInvInitAlloc_32f(KeliDCTInvSpec_32f** ppSpec, KeliSize roiSize, KelHintAlgorithm hint);
+
+/**
+ * Tells how many bytes of scratch memory a transform needs.
+ *
+ * Checks, in order: kelStatusNullPointer if a pointer is null; kelStatusBadSpec if pSpec is of
+ * another kind.
+ */
+KELI_API KelStatus keliDCTFwdGetBufSize_32f(const KeliDCTFwdSpec_32f* pSpec, int* pSize);
+KELI_API KelStatus keliDCTInvGetBufSize_32f(const KeliDCTInvSpec_32f* pSpec, int* pSize);
+
+/**
+ * Releases a specification.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if it is of another
+ * kind.
+ */
+KELI_API KelStatus keliDCTFwdFree_32f(KeliDCTFwdSpec_32f* pSpec);
+KELI_API KelStatus keliDCTInvFree_32f(KeliDCTInvSpec_32f* pSpec);
+
+/**
+ * Transforms an image to its cosine coefficients.
+ *
+ *     F(u, v) = c(u) c(v) * sum over x, y of src(x, y) * cos((2x + 1) u pi / 2W) * cos((2y + 1) v pi / 2H)
+ *
+ * W and H are the width and height of the specification; c(0) is sqrt(1/N) and the others
+ * sqrt(2/N), N being W for u and H for v: the orthonormal transform of type II and its inverse.
+ * 8 x 8 pixels give what keliDCT8x8Fwd_32f_C1 gives; other sizes go through Fourier transforms
+ * of the sides (J. Makhoul, 1980), in single precision. Each channel is transformed by itself.
+ * AC4 leaves the fourth sample of every destination pixel as it was. pBuffer is scratch memory
+ * of the bytes that keliDCTFwdGetBufSize_32f tells, at any address, or null, which makes the
+ * call allocate it and release it, or return kelStatusNoMemory with nothing written. Any number
+ * of calls may use one specification at once, each with its own scratch. Source and destination
+ * may be the same image. Results do not depend on the caller's rounding mode; those that are
+ * not numbers are the quiet NaN 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if pSpec is not of
+ * the kind that the function takes; kelStatusNullPointer if a pointer is null; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliDCTFwd_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDCTFwdSpec_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliDCTFwd_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDCTFwdSpec_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliDCTFwd_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDCTFwdSpec_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliDCTFwd_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDCTFwdSpec_32f* pSpec, void* pBuffer);
+
+/**
+ * Transforms cosine coefficients back to an image.
+ *
+ *     dst(x, y) = sum over u, v of c(u) c(v) * F(u, v) * cos((2x + 1) u pi / 2W) * cos((2y + 1) v pi / 2H)
+ *
+ * W and H are the width and height of the specification; c(0) is sqrt(1/N) and the others
+ * sqrt(2/N), N being W for u and H for v: the orthonormal transform of type II and its inverse.
+ * 8 x 8 pixels give what keliDCT8x8Inv_32f_C1 gives; other sizes go through Fourier transforms
+ * of the sides (J. Makhoul, 1980), in single precision. Each channel is transformed by itself.
+ * AC4 leaves the fourth sample of every destination pixel as it was. pBuffer is scratch memory
+ * of the bytes that keliDCTInvGetBufSize_32f tells, at any address, or null, which makes the
+ * call allocate it and release it, or return kelStatusNoMemory with nothing written. Any number
+ * of calls may use one specification at once, each with its own scratch. Source and destination
+ * may be the same image. Results do not depend on the caller's rounding mode; those that are
+ * not numbers are the quiet NaN 0x7FC00000.
+ *
+ * Checks, in order: kelStatusNullPointer if pSpec is null; kelStatusBadSpec if pSpec is not of
+ * the kind that the function takes; kelStatusNullPointer if a pointer is null; kelStatusBadStep
+ * if a step is below 1.
+ */
+KELI_API KelStatus keliDCTInv_32f_C1R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDCTInvSpec_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliDCTInv_32f_C3R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDCTInvSpec_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliDCTInv_32f_C4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDCTInvSpec_32f* pSpec, void* pBuffer);
+KELI_API KelStatus keliDCTInv_32f_AC4R(const Kel32f* pSrc, int srcStep, Kel32f* pDst, int dstStep, const KeliDCTInvSpec_32f* pSpec, void* pBuffer);
 
 #ifdef __cplusplus
 }

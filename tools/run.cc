@@ -10,6 +10,7 @@
 #include "numbers.h"
 #include "options.h"
 #include "raster.h"
+#include "registry/transform_spec.h"
 #include "results.h"
 #include "sample_type.h"
 
@@ -51,7 +52,8 @@ bool isSupplied(Role role) {
   if (role == Role::kInOutWithin) return false;
   return registry::isImage(role) || registry::isResult(role) || isParameter(role) ||
          isPerChannel(role) || isOptional(role) || isSize(role) || role == Role::kLevels ||
-         role == Role::kCompareOp || role == Role::kStep;
+         role == Role::kCompareOp || role == Role::kStep || role == Role::kSpec ||
+         role == Role::kBuffer;
 }
 
 template <class Condition>
@@ -70,7 +72,8 @@ std::string sizeText(int width, int height) {
 
 void requireCallable(const Function& f) {
   std::string name = f.name;
-  if (count(f, registry::isImage) == 0) throw UsageError(name + " is not an image function");
+  if (count(f, registry::isImage) == 0 || registry::takesBlocks(f))
+    throw UsageError(name + " is not an image function");
   for (const Argument& a : f.arguments) {
     bool holdsSamples = registry::isImage(a.role) || a.type != Type::kNone;
     if (!isSupplied(a.role) || (holdsSamples && !isReal(a.type))) {
@@ -271,6 +274,10 @@ class Run {
       value.i = step_;
     } else if (isSize(a.role)) {
       value = sizeFor(a.role);
+    } else if (a.role == Role::kSpec) {
+      value.p = specification();
+    } else if (a.role == Role::kBuffer) {
+      value.p = nullptr;
     } else {
       value = numbers_.valueOf(i);
     }
@@ -300,6 +307,18 @@ class Run {
     return value;
   }
 
+  // Of a transform of the region, whose inverse alone is divided.
+  const void* specification() {
+    const KeliSize size = {region_.width, region_.height};
+    if (registry::TransformSpec::needsPowersOfTwo(function_) &&
+        ((size.width & (size.width - 1)) != 0 || (size.height & (size.height - 1)) != 0)) {
+      throw UsageError(std::string(function_.name) + " needs a region whose sides are powers of 2");
+    }
+    spec_.emplace(function_, size, 2);
+    if (!spec_->get()) throw UsageError("there is no memory for a specification of this size");
+    return spec_->get();
+  }
+
   int channelOf(const Argument& a) const {
     const char* option = a.role == Role::kSourceChannel        ? "--srcChannel"
                          : a.role == Role::kDestinationChannel ? "--dstChannel"
@@ -327,6 +346,7 @@ class Run {
   const Options& options_;
   std::vector<std::optional<Image>> images_;  // one for each argument that is an image
   Numbers numbers_;
+  std::optional<registry::TransformSpec> spec_;
   Image* output_ = nullptr;
   KeliSize frame_{};
   KeliSize destination_{};

@@ -42,6 +42,22 @@ bool isWritten(Role role) {
          role == Role::kInOutWithin;
 }
 
+bool isBlock(const Function& f, std::size_t argument) {
+  if (!isImage(f.arguments[argument].role)) return false;
+  for (std::size_t i = argument + 1; i < f.arguments.size; ++i) {
+    if (f.arguments[i].role == Role::kStep) return false;
+    if (isImage(f.arguments[i].role)) break;
+  }
+  return true;
+}
+
+bool takesBlocks(const Function& f) {
+  for (std::size_t i = 0; i < f.arguments.size; ++i) {
+    if (isBlock(f, i)) return true;
+  }
+  return false;
+}
+
 bool makes(const Function& function, Check check) {
   bool array = false, overChannels = false, histograms = false;
   for (const Argument& a : function.arguments) {
@@ -67,7 +83,8 @@ bool isResult(Role role) {
 
 bool isPointer(const Argument& a) {
   return isImage(a.role) || a.length != 0 || isResult(a.role) || a.role == Role::kLevels ||
-         a.role == Role::kElement || a.role == Role::kStepOut;
+         a.role == Role::kElement || a.role == Role::kStepOut || a.role == Role::kSpec ||
+         a.role == Role::kOwnedSpec || a.role == Role::kSpecOut || a.role == Role::kSizeOut;
 }
 
 }  // namespace keli::registry

@@ -78,6 +78,12 @@ enum class Role : std::uint8_t {
   kExtent,      // a width or height
   kStepOut,     // receives a step
   kBlock,       // a block to release
+  kSpec,        // a specification structure that is read
+  kOwnedSpec,   // one that is released
+  kSpecOut,     // receives the address of one
+  kSizeOut,     // receives a size
+  kBuffer,      // scratch memory or null
+  kNumber,      // an int that chooses something
   kUnread,      // accepted and ignored
 };
 
@@ -107,6 +113,8 @@ enum class Check : std::uint8_t {
   kAxis,
   kSizes,
   kInterpolation,
+  kNullSpec,
+  kSpec,
   kNoise,
   kGrayLevels,
   kChannels,
@@ -214,6 +222,9 @@ CheckInfo about(Check check);
 bool makes(const Function& function, Check check);
 bool isImage(Role role);
 bool isWritten(Role role);
+// An image of 8 x 8 samples, one after another: one that no step follows.
+bool isBlock(const Function& function, std::size_t argument);
+bool takesBlocks(const Function& function);
 bool isConstant(Role role);  // one value, or one for each channel
 bool isResult(Role role);    // written, and no image
 bool isPointer(const Argument& argument);

@@ -224,6 +224,12 @@ bool fails(const TestCall& call, const std::vector<Value>& values, Check check, 
       const std::int64_t mode = number(Role::kInterpolation);
       return mode != 1 && mode != 2 && mode != 4;
     }
+    case Check::kNullSpec:
+      return valueOf(call, values, Role::kSpec).p == nullptr;
+    case Check::kSpec: {
+      const auto kindOf = [](const void* p) { return *static_cast<const std::int32_t*>(p); };
+      return kindOf(valueOf(call, values, Role::kSpec).p) != kindOf(call.spec()->get());
+    }
     case Check::kNoise:
       return spreads(call, values) && (number(Role::kNoise) < 0 || number(Role::kNoise) > 100);
     case Check::kGrayLevels:
@@ -241,6 +247,7 @@ bool fails(const TestCall& call, const std::vector<Value>& values, Check check, 
 KelStatus codeOf(Check check) {
   switch (check) {
     case Check::kNull:
+    case Check::kNullSpec:
     case Check::kValues:
       return -8;
     case Check::kWidth:
@@ -275,6 +282,8 @@ KelStatus codeOf(Check check) {
       return -34;
     case Check::kRow:
       return -37;
+    case Check::kSpec:
+      return -17;
     case Check::kGrayLevels:
       return -54;
     case Check::kNoise:

@@ -15,6 +15,9 @@ using registry::Value;
 
 namespace {
 
+// What begins like a specification structure of no kind there is.
+constexpr std::int32_t kOtherSpec = 99;
+
 // Arrays of pointers (planes, histograms) of which one is null; kept for the run of the test.
 const void* withNull(const Value& planes, int count, int null) {
   static std::vector<std::unique_ptr<const void*[]>> kept;
@@ -89,6 +92,7 @@ void addSizeFaults(const TestCall& call, std::size_t i, std::vector<Fault>& faul
     add(" x beyond", [&](Value& v) { v.point.x = w.mask.width; });
     add(" y beyond", [&](Value& v) { v.point.y = w.mask.height; });
   }
+  if (a.role == Role::kSpec) add(" of another kind", [&](Value& v) { v.p = &kOtherSpec; });
   if (a.role == Role::kElement) add(" all zero", [&](Value& v) { v.p = zeros.data(); });
   if (a.role == Role::kTopBorder || a.role == Role::kLeftBorder) {
     for (const int bad : {-1, INT_MIN, INT_MAX, 1000}) add(" bad", [&](Value& v) { v.i = bad; });

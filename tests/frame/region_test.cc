@@ -22,12 +22,12 @@ using Bytes = std::vector<std::uint8_t>;
 void forEachImageFunction(const std::function<void(const Function&)>& f) {
   std::size_t count = 0;
   for (const Function& function : registry::functions()) {
-    bool writes = false, step = false;
+    bool writes = false, image = false;
     for (const auto& a : function.arguments) {
       writes |= registry::isWritten(a.role) || registry::isResult(a.role);
-      step |= a.role == Role::kStep;
+      image |= registry::isImage(a.role);
     }
-    if (!writes || !step) continue;
+    if (!writes || !image) continue;
     ++count;
     f(function);
     if (testing::Test::HasFatalFailure()) return;

@@ -3,10 +3,10 @@
 
 namespace keli::test {
 
-// While it lives, malloc returns null.
+// While it lives, malloc returns null, but for the first calls if asked for.
 class NoMemory {
  public:
-  NoMemory();
+  explicit NoMemory(int calls = 0);
   ~NoMemory();
   NoMemory(const NoMemory&) = delete;
   NoMemory& operator=(const NoMemory&) = delete;

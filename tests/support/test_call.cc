@@ -32,6 +32,11 @@ bool checks(const registry::Function& f, registry::Check check) {
 
 TestCall::TestCall(const registry::Function& f, const Geometry& g, std::uint64_t seed)
     : function(f), values(f.arguments.size), size_{g.width, g.height}, imageAt_(f.arguments.size) {
+  if (registry::TransformSpec::needsPowersOfTwo(f)) {
+    while ((size_.width & (size_.width - 1)) != 0) size_.width &= size_.width - 1;
+    while ((size_.height & (size_.height - 1)) != 0) size_.height &= size_.height - 1;
+  }
+  if (registry::takesBlocks(f)) size_ = {8, 8};
   chooseWindow(Random(seed + 1));
   chooseSource(Random(seed + 2));
   Random random(seed);
@@ -86,6 +91,14 @@ TestCall::TestCall(const registry::Function& f, const Geometry& g, std::uint64_t
         break;
       case Role::kBitOffset:
         v.i = bitOffset_;
+        break;
+      case Role::kSpec:
+        if (!registry::TransformSpec::isTakenBy(f)) break;
+        spec_ = std::make_unique<registry::TransformSpec>(f, size_, 1 << (order[0] + order[1]) / 2);
+        v.p = spec_->get();
+        break;
+      case Role::kBuffer:
+        if (order[0] != 0) addBuffer(i, g, random);
         break;
       case Role::kNoise:
         v.i = std::int64_t{order[0]} * 50;
@@ -205,6 +218,7 @@ TestCall::Image TestCall::shapeOf(std::size_t i, const Geometry& g) const {
   Image image = {};
   image.argument = i;
   image.region = a.role == Role::kSource && find(Role::kSourceRegion) != npos ? sourceSize_ : size_;
+  if (registry::isBlock(function, i)) image.region = {64, 1};
   if (a.role == Role::kSource || a.role == Role::kInOut) image.around = window_;
   image.pixel = sample * static_cast<std::size_t>(pixelSamples(a.layout));
   image.used = isPlanar(a.layout) || channel
@@ -420,6 +434,7 @@ bool TestCall::mayWrite(const std::uint8_t* p) const {
   for (const Written& w : results_) {
     if (p >= w.data && p < w.data + w.size) return true;
   }
+  if (p >= buffer_.data && p < buffer_.data + buffer_.size) return true;
   for (const Image& image : images_) {
     if (!registry::isWritten(function.arguments[image.argument].role)) continue;
     for (const std::uint8_t* plane : image.planes) {

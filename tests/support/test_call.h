@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "registry/registry.h"
+#include "registry/transform_spec.h"
 #include "support/samples.h"
 
 namespace keli::test {
@@ -70,6 +71,8 @@ class TestCall {
   std::vector<std::uint8_t> region(std::size_t argument) const;
   void setRegion(std::size_t argument, const std::vector<std::uint8_t>& samples);
 
+  // A transform's specification, if it takes one.
+  const registry::TransformSpec* spec() const { return spec_.get(); }
   const Window& window() const { return window_; }
   // Of an image, without the pixels around the region.
   KeliSize sizeOf(std::size_t argument) const { return images_[imageAt_[argument]].region; }
@@ -119,6 +122,7 @@ class TestCall {
   void addNumbers(std::size_t argument, const Geometry& g, const int (&numbers)[4]);
   void addResult(std::size_t argument, std::size_t count, const Geometry& g);
   void addPerChannel(std::size_t argument, const Geometry& g, Random& random);
+  void addBuffer(std::size_t argument, const Geometry& g, Random& random);
   std::uint8_t* place(std::size_t count, const Geometry& g);
   bool mayWrite(const std::uint8_t* p) const;
   std::string changes(bool all) const;
@@ -140,6 +144,8 @@ class TestCall {
     std::size_t size;
   };
   std::vector<Written> results_;
+  std::unique_ptr<registry::TransformSpec> spec_;
+  Written buffer_ = {};
   std::uint8_t upper_[4 * 8] = {};  // the upper ends of a range whose lower ones are drawn
   int levelCounts_[4] = {};
 };

@@ -131,4 +131,13 @@ void TestCall::addElement(std::size_t i, const Geometry& g, Random& random) {
   addArray(i, mask.size(), g, mask.data());
 }
 
+// Scratch memory of exactly the size that is told, in an image's place.
+void TestCall::addBuffer(std::size_t i, const Geometry& g, Random& random) {
+  buffer_.size = static_cast<std::size_t>(spec_->scratchBytes());
+  std::uint8_t* const memory = place(buffer_.size, g);
+  fillSamples(Type::k8u, memory, buffer_.size, random);
+  buffer_.data = memory;
+  values[i].p = memory;
+}
+
 }  // namespace keli::test
