@@ -60,7 +60,9 @@ std::vector<int> widthsFor(const Function& f) {
   for (int w = 1; w <= 67; ++w) all.push_back(w);
   for (const int w : {95, 96, 97, 127, 128, 129, 191, 193, 255, 257}) all.push_back(w);
   std::vector<int> some;
-  for (std::size_t i = placeOf(f) % 4; i < all.size(); i += 4) some.push_back(all[i]);
+  // Transforms need a specification for every call.
+  const std::size_t share = registry::TransformSpec::isTakenBy(f) ? 12 : 4;
+  for (std::size_t i = placeOf(f) % share; i < all.size(); i += share) some.push_back(all[i]);
   return some;
 }
 
