@@ -1,5 +1,6 @@
 #include "support/test_call.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -430,35 +431,44 @@ void TestCall::remember() {
   }
 }
 
-bool TestCall::mayWrite(const std::uint8_t* p) const {
-  for (const Written& w : results_) {
-    if (p >= w.data && p < w.data + w.size) return true;
-  }
-  if (p >= buffer_.data && p < buffer_.data + buffer_.size) return true;
+// Calls f(first byte, count) for all bytes that the function may write, as far as they lie in
+// memory from begin to end.
+template <class F>
+void TestCall::forWritable(const std::uint8_t* begin, const std::uint8_t* end, const F& f) const {
+  const auto within = [&](const std::uint8_t* p, std::size_t count) {
+    if (p >= begin && p < end) f(p, count);
+  };
+  for (const Written& w : results_) within(w.data, w.size);
+  within(buffer_.data, buffer_.size);
   for (const Image& image : images_) {
     if (!registry::isWritten(function.arguments[image.argument].role)) continue;
     for (const std::uint8_t* plane : image.planes) {
-      if (p < plane) continue;
-      const std::size_t at = static_cast<std::size_t>(p - plane);
-      const std::size_t x = at % image.step;
-      if (at / image.step < static_cast<std::size_t>(image.region.height) && x < image.rowBytes &&
-          x % image.pixel < image.used) {
-        return true;
+      for (int y = 0; y < image.region.height; ++y) {
+        const std::uint8_t* const row = plane + static_cast<std::size_t>(y) * image.step;
+        const bool whole = image.used == image.pixel;
+        const std::size_t run = whole ? image.rowBytes : image.used;
+        for (std::size_t x = 0; x < image.rowBytes; x += whole ? image.rowBytes : image.pixel)
+          within(row + x, run);
       }
     }
   }
-  return false;
 }
 
 std::string TestCall::changes(bool all) const {
   for (std::size_t k = 0; k < arenas_.size(); ++k) {
     const Arena& arena = *arenas_[k];
-    if (std::memcmp(arena.begin(), before_[k].data(), before_[k].size()) == 0) continue;
-    for (std::size_t i = 0; i < before_[k].size(); ++i) {
-      if (arena.begin()[i] != before_[k][i] && (all || !mayWrite(arena.begin() + i))) {
-        return std::string(function.name) + ": byte " + std::to_string(i) + " of block " +
-               std::to_string(k) + " was changed";
-      }
+    const std::size_t size = before_[k].size();
+    if (std::memcmp(arena.begin(), before_[k].data(), size) == 0) continue;
+    std::vector<std::uint8_t> expected = before_[k];
+    if (!all) {
+      forWritable(arena.begin(), arena.end(), [&](const std::uint8_t* p, std::size_t count) {
+        std::memcpy(expected.data() + (p - arena.begin()), p, count);
+      });
+    }
+    const auto first = std::mismatch(expected.begin(), expected.end(), arena.begin()).first;
+    if (first != expected.end()) {
+      return std::string(function.name) + ": byte " + std::to_string(first - expected.begin()) +
+             " of block " + std::to_string(k) + " was changed";
     }
   }
   return "";

@@ -124,7 +124,8 @@ class TestCall {
   void addPerChannel(std::size_t argument, const Geometry& g, Random& random);
   void addBuffer(std::size_t argument, const Geometry& g, Random& random);
   std::uint8_t* place(std::size_t count, const Geometry& g);
-  bool mayWrite(const std::uint8_t* p) const;
+  template <class F>
+  void forWritable(const std::uint8_t* begin, const std::uint8_t* end, const F& f) const;
   std::string changes(bool all) const;
 
   KeliSize size_;

@@ -135,7 +135,7 @@ void TestCall::addElement(std::size_t i, const Geometry& g, Random& random) {
 void TestCall::addBuffer(std::size_t i, const Geometry& g, Random& random) {
   buffer_.size = static_cast<std::size_t>(spec_->scratchBytes());
   std::uint8_t* const memory = place(buffer_.size, g);
-  fillSamples(Type::k8u, memory, buffer_.size, random);
+  fillSamples(Type::k64s, memory, buffer_.size / 8, random);
   buffer_.data = memory;
   values[i].p = memory;
 }
