@@ -57,7 +57,7 @@ Work imageTransform(const Frame& f) {
   };
   for (int y = 0; y < height; ++y)
     std::copy_n(row(f.source(), y), width, src.get() + std::ptrdiff_t{y} * width);
-  return [=, &to = f.destination(), compared = false]() mutable {
+  return [=, kept = src, &to = f.destination(), compared = false]() mutable {
     fftwf_execute(plan.get());
     if (compared) return;
     compared = true;

@@ -167,7 +167,9 @@ space() {
   "$keli" run "keliRGBTo$1_8u_C3R" "$2" -o "$1.png"
   local channel=0
   for name in $3; do
-    panel "$name, by RGBTo$1" keliCopy_8u_C3C1R "$1.png" --srcChannel $(( channel++ ))
+    "$keli" run keliCopy_8u_C3C1R "$1.png" --srcChannel $channel -o "$1-$channel.png"
+    panels+=(-label "keliRGBTo$1_8u_C3R\n$name" "$1-$channel.png")
+    channel=$(( channel + 1 ))
   done
 }
 photograph astronaut.png
@@ -190,20 +192,30 @@ space LUV astronaut.png "L u v"
 panel "and back" keliLUVToRGB_8u_C3R LUV.png
 endSheet
 
-photograph camera.png
-photograph coffee.png
+# Parts of the photographs that the sheet shows pixel by pixel.
+convert camera.png -crop 240x180+60+20 +repage gray.png
+convert coffee.png -crop 240x180+80+40 +repage cup.png
+panels+=(-label "gray.png\na part of camera.png" gray.png -label "cup.png\na part of coffee.png" cup.png)
 for dither in floydSteinberg jarvis stucki bayer; do
-  panel "2 levels, $dither" keliReduceBits_8u_C1R camera.png --noise 0 --dither $dither --levels 2
+  panel "2 levels, $dither" keliReduceBits_8u_C1R gray.png --noise 0 --dither $dither --levels 2
 done
 for dither in floydSteinberg bayer; do
-  panel "4 levels, $dither" keliReduceBits_8u_C1R camera.png --noise 0 --dither $dither --levels 4
-  panel "4 levels a channel, $dither" keliReduceBits_8u_C3R coffee.png \
+  panel "4 levels, $dither" keliReduceBits_8u_C1R gray.png --noise 0 --dither $dither --levels 4
+  panel "4 levels a channel, $dither" keliReduceBits_8u_C3R cup.png \
     --noise 0 --dither $dither --levels 4
 done
-panel "2 levels, jarvis, noise 50 %" keliReduceBits_8u_C1R camera.png \
+panel "2 levels, jarvis, noise 50 %" keliReduceBits_8u_C1R gray.png \
   --noise 50 --dither jarvis --levels 2
-panel "4 levels, bayer, noise 100 %" keliReduceBits_8u_C3R coffee.png \
+panel "4 levels, bayer, noise 100 %" keliReduceBits_8u_C3R cup.png \
   --noise 100 --dither bayer --levels 4
+endSheet
+
+photograph camera.png
+printf 'keli_transforms camera.png spectrum.png low.png blocks.png\n'
+"$(dirname "$keli")/keli_transforms" camera.png spectrum.png low.png blocks.png
+panels+=(-label "keliDFTFwd_CToC_32fc_C1R\nthe logarithm of the spectrum" spectrum.png
+         -label "keliDFTInv_PackToR_32f_C1R\nlow frequencies alone" low.png
+         -label "keliDCT8x8FwdLS, InvLSClip\nblocks of few coefficients" blocks.png)
 endSheet
 
 # Numbers of pictures are printed.
