@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Turns the JSON of one run of keli_bench into docs/benchmarks.md and docs/benchmarks.svg.
+"""Turns the JSON of runs of keli_bench into docs/benchmarks.md and docs/benchmarks.svg.
 
 The document holds ratios, which carry over to other machines better than times do; only the cost
 of a call is given in nanoseconds. A run with failed rows is refused.
@@ -33,6 +33,9 @@ CHARTED = [
     "keliCopyReplicateBorder_8u_C3R", "keliMirror_8u_C3R:vertical", "keliMirror_8u_C1R:both",
     "keliRemap_8u_C1R:linear:photograph", "keliRemap_8u_C1R:cubic:photograph", "keliFilterBox_8u_C1R:5x5",
     "keliFilterBox_32f_C1R:5x5", "keliFilterMax_8u_C1R:3x3", "keliFilterMax_8u_C1R:31x31",
+    "keliRGBToYCbCr_8u_C3R", "keliRGBToHSV_8u_C3R", "keliRGBToHLS_32f_C3R", "keliRGBToLUV_8u_C3R",
+    "keliRGBToXYZ_8u_C3R", "keliRGBToGray_8u_C3C1R", "keliReduceBits_8u_C1R:bayer",
+    "keliReduceBits_8u_C1R:floydSteinberg",
 ]
 
 HEAD = """\
@@ -42,7 +45,7 @@ HEAD = """\
 - Compiler: {compiler}
 - Threads: {threads}
 - Compared with: {libraries}
-- All figures are from one run, with {rounds} rounds for each row.
+- {runs}, with {rounds} rounds for each row.
 
 **limit** is the fraction of the limit's speed that a function reaches. The limit is the fastest way
 found, in the same run and on the same images, of moving as many bytes: for functions with a source,
@@ -60,7 +63,7 @@ above 1 the function is faster. Before it is timed, every peer's result is compa
 function's. "alpha set" and "alpha copied" mark peers that also write the fourth sample, which the
 function leaves alone. A peer of a reduction answers numbers, which are compared; peers of norms take
 all channels as one. OpenCV's remap rounds coordinates to 1/32 of a pixel; its result may differ by what
-a smooth image changes in that distance. What follows a function's name is its scale factor, its relation, the size of its mask,
+a smooth image changes in that distance. FFTW's plans are made by measurement before they are timed. What follows a function's name is its scale factor, its relation, the size of its mask,
 its axis, its interpolation (and "random" for a map that is not a rotation), the noise and method of
 its dither, or the number of a histogram's levels and what its image holds where that is not noise.
 
@@ -98,6 +101,19 @@ def read_row(entry):
     label = dict(part.split(": ", 1) for part in entry["label"].split("; "))
     return Row(family, function, size, entry["limit"], entry["ns"], entry.get("peer"),
                label.get("peer", ""))
+
+
+def joined(runs):
+    """One run of all: a family's rows are those of the last run that measured it."""
+    context, benchmarks = {}, []
+    for run in runs:
+        context |= run["context"]
+        families = {entry["name"].split("/")[0] for entry in run["benchmarks"]}
+        benchmarks = [entry for entry in benchmarks
+                      if entry["name"].split("/")[0] not in families] + run["benchmarks"]
+    context["runs"] = ("All figures are from one run" if len(runs) == 1 else
+                       "All figures of a family are from one run")
+    return {"context": context, "benchmarks": benchmarks}
 
 
 def read_rows(run):
@@ -234,11 +250,12 @@ def chart(run):
 
 def main(arguments=None):
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("run", type=pathlib.Path, help="JSON that keli_bench wrote")
+    parser.add_argument("runs", type=pathlib.Path, nargs="+",
+                        help="JSON that keli_bench wrote; later runs replace families of earlier ones")
     parser.add_argument("--docs", type=pathlib.Path,
                         default=pathlib.Path(__file__).resolve().parent.parent / "docs")
     options = parser.parse_args(arguments)
-    run = json.loads(options.run.read_text())
+    run = joined([json.loads(path.read_text()) for path in options.runs])
     try:
         page, picture = document(run), chart(run)
     except BadRun as fault:

@@ -35,9 +35,23 @@ def sample_run():
     ]}
 
 
+class Joined(unittest.TestCase):
+    def test_a_later_run_replaces_whole_families(self):
+        later = {"context": CONTEXT | {"family fft": "Fourier", "library FFTW": "3"},
+                 "benchmarks": [entry("data/keliCopy_8u_C1R/64x64", 0.3),
+                                entry("fft/keliFFT/64x64", 0.1)]}
+        run = report.joined([sample_run(), later])
+        self.assertEqual([e["name"].rpartition("/iter")[0] for e in run["benchmarks"]],
+                         ["overhead/keliCopy_8u_C1R/16x16+48", "data/keliCopy_8u_C1R/64x64",
+                          "fft/keliFFT/64x64"])
+        text = report.document(run)
+        self.assertIn("- All figures of a family are from one run, with", text)
+        self.assertIn("- Compared with: OpenCV 4.6, FFTW 3", text)
+
+
 class Document(unittest.TestCase):
     def setUp(self):
-        self.lines = report.document(sample_run()).splitlines()
+        self.lines = report.document(report.joined([sample_run()])).splitlines()
 
     def test_sizes_stand_in_order_and_missing_ones_stay_empty(self):
         self.assertIn("| function | 64x64 limit | 64x64 peer | 640x480 limit | 640x480 peer "
