@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 #include "core/nearest.h"
 #include "core/planes.h"
@@ -35,10 +36,12 @@ template <class T, Layout kFrom>
 KelStatus colorToGray(const T* src, int srcStep, T* dst, int dstStep, KeliSize size,
                       const Kel32f* weights) {
   const GrayKernels& kernels = grayKernels<T>();
+  Weights aligned;
+  std::memcpy(aligned.data(), weights, sizeof aligned);
   const core::RoundToNearest arithmetic;
   walkPlanes<Team::kCaller, kFrom, Layout::C1, T, T>(
       makePlanesBand<kFrom, Layout::C1, T, T>(src, srcStep, dst, dstStep, size),
-      kFrom == Layout::C3 ? kernels.c3 : kernels.ac4, Weights{weights[0], weights[1], weights[2]});
+      kFrom == Layout::C3 ? kernels.c3 : kernels.ac4, aligned);
   return kelStatusOk;
 }
 

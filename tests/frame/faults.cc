@@ -120,7 +120,8 @@ void addModeFaults(const TestCall& call, std::size_t i, std::vector<Fault>& faul
   addAll(Role::kBitOffset, {-1, 8, INT_MIN});
   addAll(Role::kNoise, {-1, 101, INT_MIN, INT_MAX});
   addAll(Role::kGrayLevels, {1, 0, 65537, INT_MIN, INT_MAX});
-  if (call.function.arguments[call.written()].type == Type::k8u) addAll(Role::kGrayLevels, {257});
+  if (a.role == Role::kGrayLevels && call.function.arguments[call.written()].type == Type::k8u)
+    addAll(Role::kGrayLevels, {257});
   addAll(Role::kDither, {-1, 0, 4, 5, INT_MIN, INT_MAX});
   if (a.role == Role::kRangeMin) {
     const double most = call.values[call.find(Role::kRangeMax)].f;
@@ -152,7 +153,7 @@ double numberAt(const Argument& a, const Value& value, int k) {
 
 // How many pointers an argument's array holds, if it is one of pointers.
 int pointersIn(const Argument& a) {
-  if (registry::isImage(a.role)) return isPlanar(a.layout) ? usedChannels(a.layout) : 0;
+  if (registry::isImage(a.role)) return isPlanar(a.layout) ? storedChannels(a.layout) : 0;
   const bool arrays =
       a.role == Role::kCounts || a.role == Role::kLevels || a.role == Role::kLevelsOut;
   return arrays ? a.length : 0;

@@ -248,7 +248,8 @@ void TestCall::addImage(std::size_t i, const Geometry& g, Random& random) {
   const std::size_t beside = static_cast<std::size_t>(image.around.mask.width - 1) * image.pixel;
   const std::size_t rows =
       static_cast<std::size_t>(image.region.height + image.around.mask.height - 1);
-  const int planes = isPlanar(a.layout) ? usedChannels(a.layout) : 1;
+  // Of AP4, the plane that is left alone too.
+  const int planes = isPlanar(a.layout) ? storedChannels(a.layout) : 1;
   for (int k = 0; k < planes; ++k) {
     std::uint8_t* const p = place((rows - 1) * image.step + image.rowBytes + beside, g);
     for (std::size_t y = 0; y < rows; ++y)
@@ -441,8 +442,10 @@ void TestCall::forWritable(const std::uint8_t* begin, const std::uint8_t* end, c
   for (const Written& w : results_) within(w.data, w.size);
   within(buffer_.data, buffer_.size);
   for (const Image& image : images_) {
-    if (!registry::isWritten(function.arguments[image.argument].role)) continue;
-    for (const std::uint8_t* plane : image.planes) {
+    const Argument& a = function.arguments[image.argument];
+    if (!registry::isWritten(a.role)) continue;
+    for (int k = 0; k < (isPlanar(a.layout) ? usedChannels(a.layout) : 1); ++k) {
+      const std::uint8_t* const plane = image.planes[static_cast<std::size_t>(k)];
       for (int y = 0; y < image.region.height; ++y) {
         const std::uint8_t* const row = plane + static_cast<std::size_t>(y) * image.step;
         const bool whole = image.used == image.pixel;
