@@ -5,8 +5,8 @@
 //   operator()(d, in)   of floats (RealPixels) or of signed integers (WordPixels)
 // Integer samples are widened to such lanes, those of 16s offset by 32768 so that 0 is the least;
 // results saturate on the way back. Floats that are no numbers become the quiet NaN 0x7FC00000. A
-// formula of floats for integer samples tells how a result
-// becomes an integer: whole(di, v), which Rounded and Truncated have.
+// formula of floats for integer samples tells how a result becomes an integer: whole(di, v), which
+// Rounded and Truncated have.
 #if defined(KELI_COLOR_LANES_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef KELI_COLOR_LANES_INL_H_
 #undef KELI_COLOR_LANES_INL_H_

@@ -6,13 +6,11 @@
 #define KELI_FFT_TILES_INL_H_
 #endif
 
+#include "core/settled.h"
 #include "core/simd-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
-
-// settledLanes of one float.
-HWY_INLINE float settled(float v) { return v == v ? v : std::numeric_limits<float>::quiet_NaN(); }
 
 #if HWY_TARGET != HWY_SCALAR
 // Four floats of rows i, i + 4, i + 8, ... as the 16-byte blocks of a vector.

@@ -8,9 +8,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <limits>
 
 #include "core/nearest.h"
+#include "core/settled.h"
 #include "core/types.h"
 
 namespace keli::remap {
@@ -56,10 +56,6 @@ inline T sampleOf(const T* p) {
   std::memcpy(&v, p, sizeof(T));
   return v;
 }
-
-// Results that are not numbers have one form: which operand's bits a sum of two takes depends on
-// the order in which a compiler writes them.
-inline Kel32f settled(Kel32f v) { return v == v ? v : std::numeric_limits<Kel32f>::quiet_NaN(); }
 
 // Weights of 14 bits. What a row gives keeps 6 bits behind the point, at most 255 * 64, so the sum
 // of both rows fits 28 bits. It is rounded to nearest, ties up.

@@ -9,9 +9,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <limits>
 #include <type_traits>
 
+#include "core/settled.h"
 #include "core/walk.h"
 #include "extremes/extremes.h"
 #include "sums/totals.h"
@@ -66,11 +66,6 @@ Kernel<kSources, TotalsOf<kWhat, T>> kernelOf() {
     if constexpr (kWhat == What::kSum || kWhat == What::kL1)
       return kernels.magnitudes.template of<kLayout>();
   }
-}
-
-// NaNs of sums are all the same one, whatever met in them.
-inline double settled(double sum) {
-  return sum == sum ? sum : std::numeric_limits<double>::quiet_NaN();
 }
 
 template <What kWhat, class T, Layout kLayout>
