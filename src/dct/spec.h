@@ -1,7 +1,7 @@
 // Specification structures of the cosine transforms of images. They are read-only once made.
 #pragma once
 
-#include "fft/kinds.h"
+#include "fft/life.h"
 #include "fft/plan.h"
 
 namespace keli::dct {
@@ -25,8 +25,7 @@ struct Spec {
 };
 
 KelStatus initAlloc(fft::Kind kind, Spec** out, KeliSize size, int hint);
-KelStatus getBufSize(fft::Kind kind, const Spec* spec, int* size);
-KelStatus free(fft::Kind kind, Spec* spec);
+void release(Spec* spec);  // null is ignored
 
 template <class Opaque>
 KelStatus initAlloc(Opaque** out, KeliSize size, KelHintAlgorithm hint) {
@@ -34,15 +33,15 @@ KelStatus initAlloc(Opaque** out, KeliSize size, KelHintAlgorithm hint) {
 }
 template <class Opaque>
 KelStatus getBufSize(const Opaque* spec, int* size) {
-  return getBufSize(fft::kKindOf<Opaque>, reinterpret_cast<const Spec*>(spec), size);
+  return fft::getBufSize(fft::kKindOf<Opaque>, reinterpret_cast<const Spec*>(spec), size);
 }
 template <class Opaque>
 KelStatus free(Opaque* spec) {
-  return free(fft::kKindOf<Opaque>, reinterpret_cast<Spec*>(spec));
+  return fft::free(fft::kKindOf<Opaque>, reinterpret_cast<Spec*>(spec));
 }
 
-// Parts of a transform's scratch, as of fft::Spec.
+constexpr KeliSize sizeOf(const Spec& spec) { return {spec.width, spec.height}; }
+// The part of the scratch that the kernels work in, as of fft::Spec.
 std::size_t kernelBytes(const Spec& spec);
-std::size_t planeBytes(const Spec& spec);
 
 }  // namespace keli::dct

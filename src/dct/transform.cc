@@ -7,6 +7,7 @@
 #include "dct/blocks.h"
 #include "dct/cosine_rows.h"
 #include "fft/channels.h"
+#include "fft/spec.h"
 
 namespace keli::dct {
 namespace {
@@ -53,11 +54,11 @@ void run(const Spec& spec, const fft::Image& image, float* scratch) {
 
 KelStatus transform(const Spec& spec, const void* src, int srcStep, void* dst, int dstStep,
                     int channels, int used, void* buffer) {
-  const std::size_t plane = channels == 1 ? 0 : planeBytes(spec);
-  const fft::Buffer scratch(buffer, fft::kScratchAlignment + kernelBytes(spec) + plane);
+  const std::size_t plane = channels == 1 ? 0 : fft::planeBytes(sizeOf(spec));
+  const fft::Buffer scratch(buffer, kernelBytes(spec) + plane);
   if (scratch.data() == nullptr) return kelStatusNoMemory;
   const core::RoundToNearest arithmetic;
-  fft::forChannels({src, srcStep, dst, dstStep}, {spec.width, spec.height}, channels, used,
+  fft::forChannels({src, srcStep, dst, dstStep}, sizeOf(spec), channels, used,
                    scratch.data() + kernelBytes(spec), [&](const fft::Image& one) {
                      run(spec, one, reinterpret_cast<float*>(scratch.data()));
                    });

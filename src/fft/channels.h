@@ -12,10 +12,10 @@ namespace keli::fft {
 constexpr std::size_t kScratchAlignment = 64;
 
 // A call's scratch from a 64-byte boundary on: the caller's, or memory of its own if that is null.
-// bytes: with kScratchAlignment more than is used.
+// bytes: that are used from there on.
 class Buffer {
  public:
-  Buffer(void* given, std::size_t bytes) : own_(given == nullptr ? bytes : 0) {
+  Buffer(void* given, std::size_t bytes) : own_(given == nullptr ? kScratchAlignment + bytes : 0) {
     const auto at = reinterpret_cast<std::uintptr_t>(given != nullptr ? given : own_.as<void>());
     if (at == 0) return;
     data_ = reinterpret_cast<std::uint8_t*>((at + kScratchAlignment - 1) / kScratchAlignment *

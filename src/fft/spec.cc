@@ -3,17 +3,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
-#include <limits>
 
-#include "core/memory.h"
 #include "fft/channels.h"
 #include "fft/fft_rows.h"
 
 namespace keli::fft {
 namespace {
-
-constexpr std::int64_t kMostBytes = std::numeric_limits<std::int32_t>::max();
 
 void setScales(int flag, double n, float& forward, float& inverse) {
   forward = inverse = 1;
@@ -22,20 +17,9 @@ void setScales(int flag, double n, float& forward, float& inverse) {
   if (flag == 4) forward = inverse = static_cast<float>(1 / std::sqrt(n));
 }
 
-void release(Spec* spec) {
-  if (spec == nullptr) return;
-  release(spec->real);
-  freePlan(spec->rows);
-  if (spec->columns != spec->rows) freePlan(spec->columns);
-  spec->kind = Kind{};  // a second call with the same address then finds no structure
-  core::freeImage(spec);
-}
-
-Spec* newSpec(Kind kind, std::int32_t x, std::int32_t y, int hint) {
-  auto* const spec = static_cast<Spec*>(core::allocateAligned(sizeof(Spec)));
+Spec* specOfSize(Kind kind, std::int32_t x, std::int32_t y, int hint) {
+  Spec* const spec = newSpec<Spec>(kind);
   if (spec == nullptr) return nullptr;
-  std::memset(static_cast<void*>(spec), 0, sizeof *spec);
-  spec->kind = kind;
   spec->x = x;
   spec->y = y;
   spec->hint = hint;
@@ -51,16 +35,14 @@ bool fill(Spec& spec, int flag) {
   spec.rows = makePlan(spec.width);
   spec.columns = spec.height == spec.width ? spec.rows : makePlan(spec.height);
   if (spec.rows == nullptr || spec.columns == nullptr) return false;
-  const std::int64_t bytes = static_cast<std::int64_t>(
-      kScratchAlignment + kernelBytes(spec) + (isComplex(spec.kind) ? 0 : planeBytes(spec)));
-  spec.scratchBytes = static_cast<std::int32_t>(std::min(bytes, kMostBytes));
-  return bytes <= kMostBytes;
+  const std::size_t plane = isComplex(spec.kind) ? 0 : planeBytes(sizeOf(spec));
+  return setScratchBytes(spec, kScratchAlignment + kernelBytes(spec) + plane);
 }
 
 bool make(Spec& spec, int flag) {
   if (!isInteger(spec.kind)) return fill(spec, flag);
   const Kind real = isFft(spec.kind) ? Kind::kRealFft : Kind::kRealDft;
-  spec.real = newSpec(real, spec.x, spec.y, spec.hint);
+  spec.real = specOfSize(real, spec.x, spec.y, spec.hint);
   if (spec.real == nullptr || !fill(*spec.real, flag)) return false;
   spec.scratchBytes = spec.real->scratchBytes;
   return true;
@@ -68,17 +50,25 @@ bool make(Spec& spec, int flag) {
 
 }  // namespace
 
-std::size_t kernelBytes(const Spec& spec) {
-  const std::size_t width = static_cast<std::size_t>(spec.width);
-  const std::size_t height = static_cast<std::size_t>(spec.height);
-  const std::size_t floats = std::max(scratchFloats(*spec.rows, height, width),
-                                      scratchFloats(*spec.columns, width, width));
+void release(Spec* spec) {
+  if (spec == nullptr) return;
+  release(spec->real);
+  freePlan(spec->rows);
+  if (spec->columns != spec->rows) freePlan(spec->columns);
+  forget(spec);
+}
+
+std::size_t kernelBytes(const Plan& rows, const Plan& columns, KeliSize size) {
+  const std::size_t width = static_cast<std::size_t>(size.width);
+  const std::size_t height = static_cast<std::size_t>(size.height);
+  const std::size_t floats =
+      std::max(scratchFloats(rows, height, width), scratchFloats(columns, width, width));
   return (floats * sizeof(float) + kScratchAlignment - 1) / kScratchAlignment * kScratchAlignment;
 }
 
-std::size_t planeBytes(const Spec& spec) {
-  return sizeof(float) * static_cast<std::size_t>(spec.width) *
-         static_cast<std::size_t>(spec.height);
+std::size_t planeBytes(KeliSize size) {
+  return sizeof(float) * static_cast<std::size_t>(size.width) *
+         static_cast<std::size_t>(size.height);
 }
 
 KelStatus initAlloc(Kind kind, Spec** out, std::int32_t x, std::int32_t y, int flag, int hint) {
@@ -88,7 +78,7 @@ KelStatus initAlloc(Kind kind, Spec** out, std::int32_t x, std::int32_t y, int f
   } else if (x < 1 || y < 1) {
     return kelStatusBadSize;
   }
-  Spec* const spec = newSpec(kind, x, y, hint);
+  Spec* const spec = specOfSize(kind, x, y, hint);
   if (spec == nullptr) return kelStatusNoMemory;
   const bool known = flag == 1 || flag == 2 || flag == 4 || flag == 8;
   if (known && make(*spec, flag)) {
@@ -97,20 +87,6 @@ KelStatus initAlloc(Kind kind, Spec** out, std::int32_t x, std::int32_t y, int f
   }
   release(spec);
   return known ? kelStatusNoMemory : kelStatusBadFlag;
-}
-
-KelStatus getBufSize(Kind kind, const Spec* spec, int* size) {
-  if (spec == nullptr || size == nullptr) return kelStatusNullPointer;
-  if (spec->kind != kind) return kelStatusBadSpec;
-  *size = spec->scratchBytes;
-  return kelStatusOk;
-}
-
-KelStatus free(Kind kind, Spec* spec) {
-  if (spec == nullptr) return kelStatusNullPointer;
-  if (spec->kind != kind) return kelStatusBadSpec;
-  release(spec);
-  return kelStatusOk;
 }
 
 }  // namespace keli::fft

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "fft/kinds.h"
+#include "fft/life.h"
 #include "fft/plan.h"
 
 namespace keli::fft {
@@ -43,8 +43,7 @@ const Spec* specOf(const Opaque* opaque) {
 }
 
 KelStatus initAlloc(Kind kind, Spec** out, std::int32_t x, std::int32_t y, int flag, int hint);
-KelStatus getBufSize(Kind kind, const Spec* spec, int* size);
-KelStatus free(Kind kind, Spec* spec);
+void release(Spec* spec);  // null is ignored
 
 template <class Opaque>
 KelStatus initAlloc(Opaque** out, int orderX, int orderY, int flag, KelHintAlgorithm hint) {
@@ -66,7 +65,12 @@ KelStatus free(Opaque* spec) {
 
 // Parts of a transform's scratch, in bytes from the first 64-byte boundary on: what the kernels
 // work in, and behind it an image of floats for the types and layouts that need one.
-std::size_t kernelBytes(const Spec& spec);
-std::size_t planeBytes(const Spec& spec);
+std::size_t kernelBytes(const Plan& rows, const Plan& columns, KeliSize size);
+std::size_t planeBytes(KeliSize size);
+
+constexpr KeliSize sizeOf(const Spec& spec) { return {spec.width, spec.height}; }
+inline std::size_t kernelBytes(const Spec& spec) {
+  return kernelBytes(*spec.rows, *spec.columns, sizeOf(spec));
+}
 
 }  // namespace keli::fft

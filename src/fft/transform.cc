@@ -13,7 +13,8 @@ struct Kernels {
   Kernel columns;
 };
 
-// Both directions of one channel; sides of one pixel have nothing to transform.
+// Both directions of one channel. Sides of one pixel have nothing to transform; a single pixel goes
+// through the rows.
 void run(const Spec& spec, Direction direction, const Image& image, const Kernels& kernels,
          float* scratch) {
   const bool inverse = direction == Direction::kInverse;
@@ -29,8 +30,7 @@ void run(const Spec& spec, Direction direction, const Image& image, const Kernel
              1,
              inverse};
   const auto along = [&](bool columns) {
-    if ((columns ? spec.height : spec.width) == 1 && spec.width != spec.height) return;
-    if (columns && spec.height == 1) return;
+    if (columns ? spec.height == 1 : spec.width == 1 && spec.height != 1) return;
     job.plan = columns ? spec.columns : spec.rows;
     job.scale = scale[columns ? 1 : 0];
     (columns ? kernels.columns : kernels.rows)(job);
@@ -47,7 +47,7 @@ Kernels realKernels() { return {fftRows().realRows, fftRows().realColumns}; }
 
 KelStatus transformComplex(const Spec& spec, Direction direction, const Image& image,
                            void* buffer) {
-  const Buffer scratch(buffer, kScratchAlignment + kernelBytes(spec));
+  const Buffer scratch(buffer, kernelBytes(spec));
   if (scratch.data() == nullptr) return kelStatusNoMemory;
   const core::RoundToNearest arithmetic;
   run(spec, direction, image, {fftRows().complexRows, fftRows().complexColumns},
@@ -57,11 +57,11 @@ KelStatus transformComplex(const Spec& spec, Direction direction, const Image& i
 
 KelStatus transformReal(const Spec& spec, Direction direction, const Image& image, int channels,
                         int used, void* buffer) {
-  const std::size_t plane = channels == 1 ? 0 : planeBytes(spec);
-  const Buffer scratch(buffer, kScratchAlignment + kernelBytes(spec) + plane);
+  const std::size_t plane = channels == 1 ? 0 : planeBytes(sizeOf(spec));
+  const Buffer scratch(buffer, kernelBytes(spec) + plane);
   if (scratch.data() == nullptr) return kelStatusNoMemory;
   const core::RoundToNearest arithmetic;
-  forChannels(image, {spec.width, spec.height}, channels, used, scratch.data() + kernelBytes(spec),
+  forChannels(image, sizeOf(spec), channels, used, scratch.data() + kernelBytes(spec),
               [&](const Image& one) {
                 run(spec, direction, one, realKernels(), reinterpret_cast<float*>(scratch.data()));
               });
@@ -71,7 +71,7 @@ KelStatus transformReal(const Spec& spec, Direction direction, const Image& imag
 KelStatus transformIntegers(const Spec& integer, Direction direction, const Image& image,
                             int channels, int used, int scaleFactor, void* buffer) {
   const Spec& spec = *integer.real;
-  const Buffer scratch(buffer, kScratchAlignment + kernelBytes(spec) + planeBytes(spec));
+  const Buffer scratch(buffer, kernelBytes(spec) + planeBytes(sizeOf(spec)));
   if (scratch.data() == nullptr) return kelStatusNoMemory;
   const core::RoundToNearest arithmetic;
   auto* const work = reinterpret_cast<float*>(scratch.data());
