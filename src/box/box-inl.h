@@ -13,11 +13,9 @@
 HWY_BEFORE_NAMESPACE();
 namespace keli::HWY_NAMESPACE {
 
-// Scratch memory from its first cache line on.
 template <class Cell>
 HWY_INLINE Cell* cellsAt(const box::BoxRows& r, std::size_t row) {
-  const std::uintptr_t line = (reinterpret_cast<std::uintptr_t>(r.scratch) + 63) / 64 * 64;
-  return reinterpret_cast<Cell*>(line) + row * static_cast<std::size_t>(box::cellsOfRow(r));
+  return reinterpret_cast<Cell*>(r.scratch) + row * static_cast<std::size_t>(box::cellsOfRow(r));
 }
 
 // The first sample of the row that lies `below` rows under the first row of the mask of row y.

@@ -29,7 +29,7 @@ struct BoxRows {
   ByteQuotient quotient;
   std::size_t row;  // number of the first row in the region
   bool resumes;     // whether scratch comes from a call for the row before
-  void* scratch;    // of scratchBytes
+  void* scratch;    // of scratchBytes, from a cache line on
 };
 
 // Samples of a row that masks meet.
@@ -72,10 +72,9 @@ std::uint64_t scratchRows(const BoxRows& r) {
   return levels + 2 + chunk + totals;
 }
 
-// One more line, as kernels start on one.
 template <class T>
 std::uint64_t scratchBytes(const BoxRows& r) {
-  return scratchRows<T>(r) * cellsOfRow(r) * 4 + 64;
+  return scratchRows<T>(r) * cellsOfRow(r) * 4;
 }
 
 }  // namespace keli::box

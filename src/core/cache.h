@@ -9,7 +9,7 @@ namespace keli {
 // Bytes moved above which stores stream; 0 until the processor has been asked. Tests set it.
 extern std::atomic<std::size_t> gStreamAbove;
 
-// The size of the second-level cache: asks, stores and returns it.
+// Asks the processor, stores the result and returns it.
 std::size_t findStreamAbove();
 
 inline bool exceedsCache(std::size_t rowBytes, std::size_t rows) {

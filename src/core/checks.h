@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "core/types.h"
+#include "core/values.h"
 
 namespace keli {
 
@@ -37,14 +38,6 @@ inline bool isZero(T value) {
 inline bool isZero(Kel16sc value) { return value.re == 0 && value.im == 0; }
 inline bool isZero(Kel32sc value) { return value.re == 0 && value.im == 0; }
 inline bool isZero(Kel32fc value) { return value.re == 0 && value.im == 0; }
-
-// Arrays stand at any address, as images do.
-template <class T>
-inline T valueAt(const T* values, int k) {
-  T value;
-  std::memcpy(&value, values + k, sizeof(T));
-  return value;
-}
 
 template <class T>
 inline bool anyZero(const T* values, int count) {

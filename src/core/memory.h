@@ -28,22 +28,56 @@ T* mallocImage(int width, int height, int* stepBytes) {
                                     kPlanes, stepBytes));
 }
 
-// Scratch memory of one call, released when it leaves; null data means that the call has to return
-// kelStatusNoMemory.
+// Vectors of scratch memory that begin on a cache line never lie in two.
+constexpr std::size_t kCacheLine = 64;
+constexpr std::size_t wholeLines(std::size_t count) {
+  return (count + kCacheLine - 1) / kCacheLine * kCacheLine;
+}
+inline std::uint8_t* firstLine(void* p) {
+  auto* const at = static_cast<std::uint8_t*>(p);
+  return at + (0 - reinterpret_cast<std::uintptr_t>(p)) % kCacheLine;
+}
+
+// Scratch memory of one call from a cache line on, released when it leaves; null means that the
+// call has to return kelStatusNoMemory.
 class Scratch {
  public:
-  explicit Scratch(std::size_t count) : data_(count != 0 ? allocateAligned(count) : nullptr) {}
-  ~Scratch() { freeImage(data_); }
+  explicit Scratch(std::size_t count) {
+    if (count == 0 || count > SIZE_MAX - kCacheLine) return;
+    block_ = allocateAligned(count + kCacheLine);
+    if (block_ != nullptr) data_ = firstLine(block_);
+  }
+  ~Scratch() { freeImage(block_); }
   Scratch(const Scratch&) = delete;
   Scratch& operator=(const Scratch&) = delete;
 
   template <class T>
   T* as() const {
-    return static_cast<T*>(data_);
+    return reinterpret_cast<T*>(data_);
   }
 
  private:
-  void* data_;
+  void* block_ = nullptr;
+  std::uint8_t* data_ = nullptr;
+};
+
+// Cuts a block into arrays, each from a cache line of the block on. Without a block it counts the
+// bytes that they take.
+class Parts {
+ public:
+  explicit Parts(void* block = nullptr) : block_(static_cast<std::uint8_t*>(block)) {}
+
+  template <class T>
+  T* take(std::size_t count) {
+    const std::size_t begin = taken_;
+    taken_ += wholeLines(count * sizeof(T));
+    return block_ != nullptr ? reinterpret_cast<T*>(block_ + begin) : nullptr;
+  }
+  std::size_t taken() const { return taken_; }
+
+ private:
+  std::uint8_t* block_;
+  std::size_t taken_ = 0;
 };
 
 }  // namespace keli::core

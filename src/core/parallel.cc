@@ -54,8 +54,7 @@ int teamSize(int rows, std::size_t bytes) {
 KelStatus runTeam(Split split, int rows, int team, std::size_t scratchPerThread,
                   const TeamTask& task) {
   if (team > 1 && !mayFork()) team = 1;
-  // Slices start on separate cache lines.
-  const std::size_t slice = (scratchPerThread + 63) / 64 * 64;
+  const std::size_t slice = wholeLines(scratchPerThread);
   const Scratch scratch(slice * static_cast<std::size_t>(team));
   unsigned char* const slices = scratch.as<unsigned char>();
   if (slice != 0 && slices == nullptr) return kelStatusNoMemory;

@@ -17,6 +17,13 @@ constexpr T saturate(std::int64_t v) {
   return static_cast<T>(v);
 }
 
+constexpr double powerOfTwo(int exponent) {
+  double power = 1;
+  for (; exponent > 0; --exponent) power *= 2;
+  for (; exponent < 0; ++exponent) power /= 2;
+  return power;
+}
+
 // v * 2^-scaleFactor rounded, saturated to 64 bits where it is larger.
 constexpr std::int64_t scaledExact(std::int64_t v, int scaleFactor) {
   using L = std::numeric_limits<std::int64_t>;

@@ -102,7 +102,7 @@ HWY_INLINE hn::Vec<D> narrow(D d, const Wide<D>& w) {
   }
 }
 
-// f(d, v...) on lanes of 32 bits as doubles, converted to the lanes of v again; integers saturate.
+// f(d, v...) on lanes of 32 bits as doubles, converted to those of D; integers saturate.
 template <class D, class F, class... V>
 HWY_INLINE hn::Vec<D> mapDoubles(D d, [[maybe_unused]] const F& f, [[maybe_unused]] V... v) {
 #if HWY_TARGET == HWY_SCALAR
@@ -112,8 +112,8 @@ HWY_INLINE hn::Vec<D> mapDoubles(D d, [[maybe_unused]] const F& f, [[maybe_unuse
   if constexpr (hn::MaxLanes(D()) * sizeof(double) > kVectorBytes) {
     const hn::Half<D> dh;
     const hn::Rebind<double, hn::Half<D>> dd;
-    const auto lo = f(dd, hn::PromoteTo(dd, hn::LowerHalf(dh, v))...);
-    const auto hi = f(dd, hn::PromoteTo(dd, hn::UpperHalf(dh, v))...);
+    const auto lo = f(dd, hn::PromoteTo(dd, hn::LowerHalf(v))...);
+    const auto hi = f(dd, hn::PromoteTo(dd, hn::UpperHalf(hn::Half<hn::DFromV<V>>(), v))...);
     return hn::Combine(d, hn::DemoteTo(dh, hi), hn::DemoteTo(dh, lo));
   } else {
     const hn::Rebind<double, D> dd;

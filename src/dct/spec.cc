@@ -46,7 +46,7 @@ bool fill(Spec& spec) {
     }
   }
   return fft::setScratchBytes(
-      spec, fft::kScratchAlignment + kernelBytes(spec) + fft::planeBytes(sizeOf(spec)));
+      spec, core::kCacheLine + kernelBytes(spec) + fft::planeBytes(sizeOf(spec)));
 }
 
 }  // namespace

@@ -121,22 +121,6 @@ std::size_t Plan::stepsOf(std::size_t stream) const {
   return (end + kTileSteps - 1) / kTileSteps * kTileSteps;
 }
 
-// Cuts a block of floats that starts on a cache line into parts that do; without a block it counts.
-class Parts {
- public:
-  explicit Parts(Kel32f* block = nullptr) : block_(block) {}
-  Kel32f* take(std::size_t count) {
-    const std::size_t at = taken_;
-    taken_ += (count + 15) / 16 * 16;
-    return block_ != nullptr ? block_ + at : nullptr;
-  }
-  std::size_t taken() const { return taken_; }
-
- private:
-  Kel32f* block_;
-  std::size_t taken_ = 0;
-};
-
 // Where a lane is: a column of a row, or before or after the row's columns.
 struct Place {
   std::size_t row;
@@ -186,7 +170,7 @@ class Stream {
   Stream(const Plan& plan, std::size_t index)
       : plan_(plan), index_(index), steps_(plan.stepsOf(index)) {}
 
-  void place(Parts& parts);
+  void place(core::Parts& parts);
   // Tells which stream works on the rows above.
   void follow(const Stream& above) { above_ = &above; }
 
@@ -222,17 +206,17 @@ class Stream {
   Place places_[kLanesMost];
 };
 
-void Stream::place(Parts& parts) {
+void Stream::place(core::Parts& parts) {
   const std::size_t chains = plan_.chains();
-  rows_ = parts.take(chains * perChain());
-  values_ = parts.take(chains * perChain());
+  rows_ = parts.take<Kel32f>(chains * perChain());
+  values_ = parts.take<Kel32f>(chains * perChain());
   for (std::size_t c = 0; c < chains; ++c) {
-    memory_[c] = parts.take(kMemoryVectors * plan_.wave.lanes);
+    memory_[c] = parts.take<Kel32f>(kMemoryVectors * plan_.wave.lanes);
     for (std::size_t r = 0; r < plan_.rowsAbove; ++r)
-      between_[r][c] = parts.take(kChainDelay + kTileSteps);
+      between_[r][c] = parts.take<Kel32f>(kChainDelay + kTileSteps);
   }
   for (std::size_t k = 0; k < plan_.images.channels; ++k) {
-    for (std::size_t r = 0; r < plan_.rowsAbove; ++r) errors_[r][k] = parts.take(plan_.errors());
+    for (std::size_t r = 0; r < plan_.rowsAbove; ++r) errors_[r][k] = parts.take<Kel32f>(plan_.errors());
   }
   for (std::size_t lane = 0; lane < plan_.lanes(); ++lane) {
     places_[lane] = {index_ * plan_.lanes() + lane,
@@ -356,18 +340,18 @@ void run(Stream* const* streams, int count) {
 
 KelStatus diffuse(const Images& images, const Method& method) {
   const Plan plan(images, method);
-  Parts counted;
+  core::Parts counted;
+  counted.take<Stream>(1);
   Stream(plan, 0).place(counted);
-  const std::size_t perStream = counted.taken() + (sizeof(Stream) + 63) / 64 * 16;
-  // The block starts on 32 bytes.
-  const core::Scratch scratch((plan.streams * perStream + 16) * sizeof(Kel32f));
-  unsigned char* const memory = scratch.as<unsigned char>();
+  const std::size_t count = plan.streams * counted.taken();
+  const core::Scratch scratch(count);
+  auto* const memory = scratch.as<std::uint8_t>();
   if (memory == nullptr) return kelStatusNoMemory;
-  std::memset(memory, 0, (plan.streams * perStream + 16) * sizeof(Kel32f));
-  Parts parts(reinterpret_cast<Kel32f*>((reinterpret_cast<std::uintptr_t>(memory) + 63) / 64 * 64));
+  std::memset(memory, 0, count);
+  core::Parts parts(memory);
   Stream* streams[kMostStreams];
   for (std::size_t s = 0; s < plan.streams; ++s) {
-    streams[s] = new (parts.take(sizeof(Stream) / 4)) Stream(plan, s);
+    streams[s] = new (parts.take<Stream>(1)) Stream(plan, s);
     streams[s]->place(parts);
   }
   for (std::size_t s = 0; s < plan.streams; ++s)

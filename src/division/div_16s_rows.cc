@@ -30,7 +30,7 @@ struct DivideShorts {
 
   // A quotient is at most 2^15 and, but for 0, at least 2^-15.
   explicit DivideShorts(int sf)
-      : scaleFactor(std::clamp(sf, -31, 17)), factor(division::powerOfTwo(scaleFactor)) {}
+      : scaleFactor(std::clamp(sf, -31, 17)), factor(division::scaleOf(scaleFactor)) {}
 
   template <class D>
   HWY_INLINE Nothing at(D, std::size_t) const {
@@ -88,7 +88,7 @@ struct DivideByShorts {
   DivideByShorts(const void* constants, int sf) : scaleFactor(std::min(sf, 17)) {
     for (std::size_t k = 0; k < kCycle; ++k) {
       divisors[k] = load(static_cast<const Kel16s*>(constants) + k);
-      const float d = static_cast<float>(divisors[k]) / division::powerOfTwo(scaleFactor);
+      const float d = static_cast<float>(divisors[k]) / division::scaleOf(scaleFactor);
       float power = 2;
       while (power < 2 * std::abs(d)) power *= 2;
       reciprocal.set(k, bits(power / d));

@@ -28,7 +28,7 @@ struct DivideBytes {
 
   // The largest product, R[0] * 255, is below 2^40, and the smallest but 0 above 2^-8.
   explicit DivideBytes(int scaleFactor)
-      : factor(division::powerOfTwo(std::clamp(scaleFactor, -17, 42))) {}
+      : factor(division::scaleOf(std::clamp(scaleFactor, -17, 42))) {}
 
   template <class D>
   HWY_INLINE Nothing at(D, std::size_t) const {

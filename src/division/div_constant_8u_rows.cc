@@ -23,7 +23,7 @@ struct DivideBytesUp {
   float factor;
 
   explicit DivideBytesUp(int sf)
-      : scaleFactor(std::max(sf, -17)), factor(division::powerOfTwo(scaleFactor)) {}
+      : scaleFactor(std::max(sf, -17)), factor(division::scaleOf(scaleFactor)) {}
 
   template <class D>
   HWY_INLINE Nothing at(D, std::size_t) const {

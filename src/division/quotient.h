@@ -28,12 +28,8 @@ constexpr T quotient(std::int64_t dividend, std::int64_t divisor, int scaleFacto
   return saturate<T>(truncated + (away ? (n < 0 ? -1 : 1) : 0));
 }
 
-// 2^-scaleFactor.
-constexpr float powerOfTwo(int scaleFactor) {
-  float power = 1;
-  for (int i = 0; i < scaleFactor; ++i) power /= 2;
-  for (int i = 0; i > scaleFactor; --i) power *= 2;
-  return power;
+constexpr float scaleOf(int scaleFactor) {
+  return static_cast<float>(powerOfTwo(-scaleFactor));
 }
 
 // For v of at least 0 and below 2^31.

@@ -9,24 +9,19 @@
 
 namespace keli::fft {
 
-constexpr std::size_t kScratchAlignment = 64;
-
-// A call's scratch from a 64-byte boundary on: the caller's, or memory of its own if that is null.
+// A call's scratch from a cache line on: the caller's, or memory of its own if that is null.
 // bytes: that are used from there on.
 class Buffer {
  public:
-  Buffer(void* given, std::size_t bytes) : own_(given == nullptr ? kScratchAlignment + bytes : 0) {
-    const auto at = reinterpret_cast<std::uintptr_t>(given != nullptr ? given : own_.as<void>());
-    if (at == 0) return;
-    data_ = reinterpret_cast<std::uint8_t*>((at + kScratchAlignment - 1) / kScratchAlignment *
-                                            kScratchAlignment);
-  }
+  Buffer(void* given, std::size_t bytes)
+      : own_(given == nullptr ? bytes : 0),
+        data_(given == nullptr ? own_.as<std::uint8_t>() : core::firstLine(given)) {}
   // Null if there is no memory.
   std::uint8_t* data() const { return data_; }
 
  private:
   const core::Scratch own_;
-  std::uint8_t* data_ = nullptr;
+  std::uint8_t* const data_;
 };
 
 // The two images of a transform of one channel.

@@ -77,24 +77,6 @@ std::int64_t convolutionLength(std::int64_t n) {
   return best;
 }
 
-// Gives out parts of a block, or only counts them.
-class Layout {
- public:
-  explicit Layout(std::uint8_t* block) : block_(block) {}
-
-  template <class T>
-  T* take(std::size_t count) {
-    const std::size_t begin = used_;
-    used_ += (count * sizeof(T) + core::kAlignment - 1) / core::kAlignment * core::kAlignment;
-    return block_ != nullptr ? reinterpret_cast<T*>(block_ + begin) : nullptr;
-  }
-  std::size_t used() const { return used_; }
-
- private:
-  std::uint8_t* block_;
-  std::size_t used_ = 0;
-};
-
 void fillTwiddles(const Step& step, float* out) {
   const std::int64_t n = std::int64_t{step.radix} * step.m;
   for (std::int64_t j = 0; j < step.m; ++j) {
@@ -119,7 +101,7 @@ void fillPlaces(const Plan& plan, std::uint32_t* place) {
 
 // Sets all that the steps of a length need; block may be null, to learn how large it has to be.
 std::size_t layOutSteps(Plan& plan, std::uint8_t* block) {
-  Layout layout(block);
+  core::Parts layout(block);
   layout.take<Plan>(1);
   std::int32_t m = plan.n;
   for (int s = 0; s < plan.steps; ++s) {
@@ -134,7 +116,7 @@ std::size_t layOutSteps(Plan& plan, std::uint8_t* block) {
   auto* const place = layout.take<std::uint32_t>(static_cast<std::size_t>(plan.n));
   plan.place = place;
   if (block != nullptr) fillPlaces(plan, place);
-  return layout.used();
+  return layout.taken();
 }
 
 Plan* makeSteps(std::int32_t n) {
@@ -198,8 +180,8 @@ Plan* makeConvolution(std::int32_t n) {
   if (m > std::numeric_limits<std::int32_t>::max() / 2) return nullptr;
   const Plan* const steps = makeSteps(static_cast<std::int32_t>(m));
   if (steps == nullptr) return nullptr;
-  Layout sizes(nullptr);
-  const auto layOut = [&](Layout& layout, Plan& plan) {
+  core::Parts sizes;
+  const auto layOut = [&](core::Parts& layout, Plan& plan) {
     layout.take<Plan>(1);
     plan.place = layout.take<std::uint32_t>(static_cast<std::size_t>(n));
     plan.chirp = layout.take<float>(2 * static_cast<std::size_t>(n));
@@ -207,9 +189,9 @@ Plan* makeConvolution(std::int32_t n) {
   };
   Plan plan = {};
   layOut(sizes, plan);
-  auto* const block = static_cast<std::uint8_t*>(core::allocateAligned(sizes.used()));
+  auto* const block = static_cast<std::uint8_t*>(core::allocateAligned(sizes.taken()));
   if (block != nullptr) {
-    Layout layout(block);
+    core::Parts layout(block);
     layOut(layout, plan);
     plan.n = n;
     plan.work = static_cast<std::int32_t>(m);

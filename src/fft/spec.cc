@@ -36,7 +36,7 @@ bool fill(Spec& spec, int flag) {
   spec.columns = spec.height == spec.width ? spec.rows : makePlan(spec.height);
   if (spec.rows == nullptr || spec.columns == nullptr) return false;
   const std::size_t plane = isComplex(spec.kind) ? 0 : planeBytes(sizeOf(spec));
-  return setScratchBytes(spec, kScratchAlignment + kernelBytes(spec) + plane);
+  return setScratchBytes(spec, core::kCacheLine + kernelBytes(spec) + plane);
 }
 
 bool make(Spec& spec, int flag) {
@@ -63,7 +63,7 @@ std::size_t kernelBytes(const Plan& rows, const Plan& columns, KeliSize size) {
   const std::size_t height = static_cast<std::size_t>(size.height);
   const std::size_t floats =
       std::max(scratchFloats(rows, height, width), scratchFloats(columns, width, width));
-  return (floats * sizeof(float) + kScratchAlignment - 1) / kScratchAlignment * kScratchAlignment;
+  return core::wholeLines(floats * sizeof(float));
 }
 
 std::size_t planeBytes(KeliSize size) {

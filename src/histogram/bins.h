@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "core/types.h"
+#include "core/values.h"
 
 namespace keli::histogram {
 
@@ -16,27 +17,19 @@ inline std::uint64_t pixelsOf(KeliSize size) {
   return static_cast<std::uint64_t>(size.width) * static_cast<std::uint64_t>(size.height);
 }
 
-// At any address, and farther than an int counts.
-template <class T>
-inline T sampleAt(const T* samples, std::size_t i) {
-  T v;
-  std::memcpy(&v, reinterpret_cast<const std::uint8_t*>(samples) + i * sizeof(T), sizeof(T));
-  return v;
-}
-
 template <class Level>
 struct Bins {
   int* counts;
   const Level* levels;
   std::size_t size;
 
-  Level level(std::size_t k) const { return sampleAt(levels, k); }
+  Level level(std::size_t k) const { return valueAt(levels, k); }
 
   void clear() const { std::memset(counts, 0, size * sizeof(int)); }
 
   void add(std::size_t k, std::uint64_t pixels) const {
     constexpr std::uint64_t kMost = std::numeric_limits<int>::max();
-    const std::uint64_t sum = static_cast<std::uint64_t>(sampleAt(counts, k)) + pixels;
+    const std::uint64_t sum = static_cast<std::uint64_t>(valueAt(counts, k)) + pixels;
     const int count = static_cast<int>(sum < kMost ? sum : kMost);
     std::memcpy(counts + k, &count, sizeof(count));
   }

@@ -104,7 +104,7 @@ class ByteCounter {
   void countPairs(const Band<1>& b) {
     for (std::size_t y = 0; y < b.rows; ++y) {
       const Kel16u* const row = b.srcRow<Kel16u>(0, y);
-      tally(pairTable(), b.n / 2, [=](std::size_t i) { return std::size_t{sampleAt(row, i)}; });
+      tally(pairTable(), b.n / 2, [=](std::size_t i) { return std::size_t{valueAt(row, i)}; });
       if (b.n % 2 != 0) ++counters_[b.srcRow<Kel8u>(0, y)[b.n - 1]];
     }
   }

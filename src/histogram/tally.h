@@ -47,7 +47,7 @@ template <std::size_t kStride, class T, std::size_t kTables, class Id>
 inline void tallyRows(const Band<1>& b, const Tables<kTables>& tables, const Id& id) {
   for (std::size_t y = 0; y < b.rows; ++y) {
     const T* const row = b.srcRow<T>(0, y);
-    tally(tables, b.n, [&](std::size_t i) { return id(sampleAt(row, i * kStride)); });
+    tally(tables, b.n, [&](std::size_t i) { return id(valueAt(row, i * kStride)); });
   }
 }
 
@@ -57,7 +57,7 @@ template <std::size_t kStride, class T, class Level>
 void countBySearch(const Band<1>& b, const Bins<Level>& bins) {
   for (std::size_t y = 0; y < b.rows; ++y) {
     for (std::size_t x = 0; x < b.n; ++x) {
-      const T v = sampleAt(b.srcRow<T>(0, y), x * kStride);
+      const T v = valueAt(b.srcRow<T>(0, y), x * kStride);
       if (!(v >= bins.level(0) && v < bins.level(bins.size))) continue;
       std::size_t first = 0, count = bins.size;  // the bins that v may be in
       while (count > 1) {
@@ -74,7 +74,7 @@ template <std::size_t kStride, class T, class Level>
 void countByTest(const Band<1>& b, const Bins<Level>& bins) {
   for (std::size_t y = 0; y < b.rows; ++y) {
     for (std::size_t x = 0; x < b.n; ++x) {
-      const T v = sampleAt(b.srcRow<T>(0, y), x * kStride);
+      const T v = valueAt(b.srcRow<T>(0, y), x * kStride);
       for (std::size_t k = 0; k < bins.size; ++k) {
         if (v >= bins.level(k) && v < bins.level(k + 1)) bins.add(k, 1);
       }

@@ -9,7 +9,6 @@
 #include <hwy/foreach_target.h>
 //
 #include "core/byte_table-inl.h"
-#include "core/real-inl.h"
 #include "core/scale.h"
 #include "core/wide-inl.h"
 #include "math/logarithm-inl.h"
@@ -51,7 +50,7 @@ struct LnOf16s : UnaryOp {
   // Beyond -17 all but 0 and 1 saturate, beyond 5 all give 0.
   HWY_INLINE LnOf16s(int sf, LnFlags& f)
       : flags(f),
-        factor(static_cast<float>(math::powerOfTwo(sf < -17 ? 17
+        factor(static_cast<float>(powerOfTwo(sf < -17 ? 17
                                                    : sf > 5 ? -5
                                                             : -sf))) {}
 
@@ -79,14 +78,14 @@ struct LnOf16s : UnaryOp {
   HWY_INLINE auto logarithm(DF df, V v) const {
     const auto split = Logarithm<DF>::split(df, v);
     if constexpr (kDoubles) {
-      return nearestInDoubles(
-          df,
+      return mapDoubles(
+          hn::RebindToSigned<decltype(df)>(),
           [&](auto dd, auto f, auto e) KELI_LAMBDA {
             const auto s = f / (f + hn::Set(dd, 2.0)), z = s * s;
             auto sum = hn::Set(dd, 1.0 / 13);
             for (int k = 11; k >= 1; k -= 2) sum = hn::Set(dd, 1.0 / k) + z * sum;
             const auto ln = e * hn::Set(dd, math::kLn2High + math::kLn2Low) + (s + s) * sum;
-            return ln * hn::Set(dd, static_cast<double>(factor));
+            return hn::Round(ln * hn::Set(dd, static_cast<double>(factor)));
           },
           split.fraction, split.exponent);
     } else {

@@ -11,7 +11,6 @@
 #include <hwy/foreach_target.h>
 //
 #include "core/byte_table-inl.h"
-#include "core/real-inl.h"
 #include "core/scale.h"
 #include "core/wide-inl.h"
 #include "math/tables.h"
@@ -39,7 +38,7 @@ struct Root : UnaryOp {
 
   // Beyond -17 every root but 0 saturates, beyond 9 they all give 0.
   HWY_INLINE explicit Root(int sf)
-      : factor(static_cast<float>(math::powerOfTwo(sf < -17  ? 17
+      : factor(static_cast<float>(powerOfTwo(sf < -17  ? 17
                                                    : sf > 10 ? -10
                                                              : -sf))) {}
 
@@ -62,10 +61,11 @@ struct Root : UnaryOp {
   template <class DF, class V>
   HWY_INLINE auto root(DF df, V v) const {
     if constexpr (kDoubles) {
-      return nearestInDoubles(
-          df,
-          [&](auto dd, auto x)
-              KELI_LAMBDA { return hn::Sqrt(x) * hn::Set(dd, static_cast<double>(factor)); },
+      return mapDoubles(
+          hn::RebindToSigned<decltype(df)>(),
+          [&](auto dd, auto x) KELI_LAMBDA {
+            return hn::Round(hn::Sqrt(x) * hn::Set(dd, static_cast<double>(factor)));
+          },
           v);
     } else {
       return roundToInt(hn::RebindToSigned<decltype(df)>(), hn::Sqrt(v) * hn::Set(df, factor));

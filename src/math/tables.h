@@ -17,13 +17,6 @@ constexpr double kLn2High = 0x1.62e42fep-1;  // of 28 bits: times an integer of 
 constexpr double kLn2Low = 0x1.f473de6af278fp-30;
 constexpr double kE = 0x1.5bf0a8b145769p+1;
 
-constexpr double powerOfTwo(int exponent) {
-  double power = 1;
-  for (; exponent > 0; --exponent) power *= 2;
-  for (; exponent < 0; ++exponent) power /= 2;
-  return power;
-}
-
 // ln v of a positive integer: v = 2^e m with m near 1, and ln m = 2 artanh((m - 1) / (m + 1)) by
 // its series, whose terms shrink by 25 and more.
 constexpr double logarithm(int v) {

@@ -16,18 +16,13 @@ class Workspace {
   static constexpr std::size_t kWithin = 24576;
 
   explicit Workspace(std::size_t count)
-      : within_(count <= kWithin), heap_(within_ || count > SIZE_MAX - kLine ? 0 : count + kLine) {}
+      : within_(count <= kWithin), heap_(within_ ? 0 : count) {}
 
   // Null if there is no memory.
-  std::uint8_t* data() {
-    if (within_) return block_;
-    std::uint8_t* const p = heap_.as<std::uint8_t>();
-    return p == nullptr ? p : p + (0 - reinterpret_cast<std::uintptr_t>(p)) % kLine;
-  }
+  std::uint8_t* data() { return within_ ? block_ : heap_.as<std::uint8_t>(); }
 
  private:
-  static constexpr std::size_t kLine = 64;
-  alignas(kLine) std::uint8_t block_[kWithin];
+  alignas(core::kCacheLine) std::uint8_t block_[kWithin];
   bool within_;
   core::Scratch heap_;
 };
@@ -79,7 +74,7 @@ inline Strips makeStrips(std::size_t n, std::size_t margin, std::size_t sampleBy
                          std::size_t rowBytes) {
   const std::size_t most = std::max(rowBytes, 4 * margin * sampleBytes) / sampleBytes / 64 * 64;
   Strips strips = {std::min(n, most), margin, 0, nullptr};
-  strips.rowBytes = ((strips.n + margin) * sampleBytes + 256 + 64 + 63) / 64 * 64;
+  strips.rowBytes = core::wholeLines((strips.n + margin) * sampleBytes + 256 + core::kCacheLine);
   return strips;
 }
 

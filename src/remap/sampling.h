@@ -12,6 +12,7 @@
 #include "core/nearest.h"
 #include "core/settled.h"
 #include "core/types.h"
+#include "core/values.h"
 
 namespace keli::remap {
 
@@ -49,13 +50,6 @@ struct Remapping {
            static_cast<std::size_t>(column) * samples;
   }
 };
-
-template <class T>
-inline T sampleOf(const T* p) {
-  T v;
-  std::memcpy(&v, p, sizeof(T));
-  return v;
-}
 
 // Weights of 14 bits. What a row gives keeps 6 bits behind the point, at most 255 * 64, so the sum
 // of both rows fits 28 bits. It is rounded to nearest, ties up.
@@ -128,7 +122,7 @@ struct Linear {
     const int x1 = x < r.xMax ? x + 1 : x, y1 = y < r.yMax ? y + 1 : y;
     const float u = fx - static_cast<float>(x), v = fy - static_cast<float>(y);
     const auto at = [&](int column, int row, int k) {
-      return sampleOf(r.pixel<T>(column, row, kStored) + k);
+      return valueAt(r.pixel<T>(column, row, kStored), k);
     };
     for (int k = 0; k < kUsed; ++k) {
       const T result = linearOf(at(x, y, k), at(x1, y, k), at(x, y1, k), at(x1, y1, k), u, v);
@@ -158,7 +152,7 @@ struct Cubic {
         float samples[4];
         for (int j = 0; j < 4; ++j) {
           const int row = clamped(y + j - 1, r.yMin, r.yMax);
-          samples[j] = static_cast<float>(sampleOf(r.pixel<T>(column, row, kStored) + k));
+          samples[j] = static_cast<float>(valueAt(r.pixel<T>(column, row, kStored), k));
         }
         columns[i] = weighted(samples, wy);
       }

@@ -12,6 +12,7 @@
 #include <type_traits>
 
 #include "core/settled.h"
+#include "core/values.h"
 #include "core/walk.h"
 #include "extremes/extremes.h"
 #include "sums/totals.h"
@@ -162,12 +163,6 @@ Results accurate(KeliSize size, const Sample& sample) {
   return results;
 }
 
-inline double sampleAt(const std::uint8_t* row, std::size_t i) {
-  float v;
-  std::memcpy(&v, row + i * sizeof(float), sizeof(v));
-  return static_cast<double>(v);
-}
-
 // ---- Regions -------------------------------------------------------------------------------
 
 template <What kWhat, class T, Layout kLayout>
@@ -175,8 +170,8 @@ Results reduce(const T* src, int srcStep, KeliSize size, KelHintAlgorithm hint) 
   if constexpr (std::is_same_v<T, Kel32f> && kWhat != What::kInf) {
     if (hint == kelAlgHintAccurate) {
       return accurate<kWhat, kLayout>(size, [=](std::ptrdiff_t y) {
-        const std::uint8_t* const row = bytes(src) + y * srcStep;
-        return [row](std::size_t i) { return sampleAt(row, i); };
+        const auto* const row = reinterpret_cast<const float*>(bytes(src) + y * srcStep);
+        return [row](std::size_t i) { return static_cast<double>(valueAt(row, i)); };
       });
     }
   }
@@ -198,9 +193,11 @@ Results reduce(const T* src1, int src1Step, const T* src2, int src2Step, KeliSiz
   if constexpr (std::is_same_v<T, Kel32f> && kWhat != What::kInf) {
     if (hint == kelAlgHintAccurate) {
       return accurate<kWhat, kLayout>(size, [=](std::ptrdiff_t y) {
-        const std::uint8_t* const a = bytes(src1) + y * src1Step;
-        const std::uint8_t* const b = bytes(src2) + y * src2Step;
-        return [a, b](std::size_t i) { return sampleAt(a, i) - sampleAt(b, i); };
+        const auto* const a = reinterpret_cast<const float*>(bytes(src1) + y * src1Step);
+        const auto* const b = reinterpret_cast<const float*>(bytes(src2) + y * src2Step);
+        return [a, b](std::size_t i) {
+          return static_cast<double>(valueAt(a, i)) - static_cast<double>(valueAt(b, i));
+        };
       });
     }
   }
