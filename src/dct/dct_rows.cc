@@ -141,27 +141,27 @@ HWY_INLINE void writeBytes(std::size_t x, const V (&v)[8], Kel8u* dst, std::ptrd
 constexpr auto kForward = [](auto& v) KELI_LAMBDA { forwardLanes(Lanes(), v); };
 constexpr auto kInverse = [](auto& v) KELI_LAMBDA { inverseLanes<8>(Lanes(), v); };
 
-template <class Read>
-HWY_INLINE void forwardSamples(const Read& read, Kel16s* dst) {
-  transformBlock(read, kForward, [&](std::size_t x, auto& v) KELI_LAMBDA {
-    scaleLanes<dct::OfWords, 8>(Lanes(), x, v);
-    writeWords(Lanes(), x, v, dst, 8 * sizeof(Kel16s));
-  });
+// Transforms samples plus a shift. It changes nothing but the first coefficient, by 64 times as
+// much: sums of 64 shifted words have at most 23 digits and are exact, and so are all differences.
+template <class T>
+HWY_INLINE void forwardSamples(const T* src, std::ptrdiff_t step, Kel16s* dst, int shift) {
+  const Lanes d;
+  const auto whole = hn::Set(d, static_cast<float>(64 * shift) * dct::kWordUnit);
+  transformBlock(
+      [&](std::size_t y, auto& v) KELI_LAMBDA { readSamples(src, step, y, v); }, kForward,
+      [&](std::size_t x, auto& v) KELI_LAMBDA {
+        if (x == 0) v[0] = v[0] + hn::IfThenElseZero(hn::FirstN(d, 1), whole);
+        scaleLanes<dct::OfWords, 8>(d, x, v);
+        writeWords(d, x, v, dst, 8 * sizeof(Kel16s));
+      });
 }
 
 void ownForward(const Kel16s* src, std::ptrdiff_t step, Kel16s* dst) {
-  forwardSamples([&](std::size_t y, auto& v) KELI_LAMBDA { readSamples(src, step, y, v); }, dst);
+  forwardSamples(src, step, dst, 0);
 }
 
-// Sums with the shift have at most 17 digits: they are exact.
 void ownForwardBytes(const Kel8u* src, std::ptrdiff_t step, Kel16s* dst, int levelShift) {
-  const auto shift = hn::Set(Lanes(), static_cast<float>(levelShift) * dct::kWordUnit);
-  forwardSamples(
-      [&](std::size_t y, auto& v) KELI_LAMBDA {
-        readSamples(src, step, y, v);
-        unrolled<8>([&](auto k) KELI_LAMBDA { v[k] = v[k] + shift; });
-      },
-      dst);
+  forwardSamples(src, step, dst, levelShift);
 }
 
 template <class Write>
