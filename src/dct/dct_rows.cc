@@ -147,13 +147,13 @@ template <class T>
 HWY_INLINE void forwardSamples(const T* src, std::ptrdiff_t step, Kel16s* dst, int shift) {
   const Lanes d;
   const auto whole = hn::Set(d, static_cast<float>(64 * shift) * dct::kWordUnit);
-  transformBlock(
-      [&](std::size_t y, auto& v) KELI_LAMBDA { readSamples(src, step, y, v); }, kForward,
-      [&](std::size_t x, auto& v) KELI_LAMBDA {
-        if (x == 0) v[0] = v[0] + hn::IfThenElseZero(hn::FirstN(d, 1), whole);
-        scaleLanes<dct::OfWords, 8>(d, x, v);
-        writeWords(d, x, v, dst, 8 * sizeof(Kel16s));
-      });
+  transformBlock([&](std::size_t y, auto& v) KELI_LAMBDA { readSamples(src, step, y, v); },
+                 kForward,
+                 [&](std::size_t x, auto& v) KELI_LAMBDA {
+                   if (x == 0) v[0] = v[0] + hn::IfThenElseZero(hn::FirstN(d, 1), whole);
+                   scaleLanes<dct::OfWords, 8>(d, x, v);
+                   writeWords(d, x, v, dst, 8 * sizeof(Kel16s));
+                 });
 }
 
 void ownForward(const Kel16s* src, std::ptrdiff_t step, Kel16s* dst) {

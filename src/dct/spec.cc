@@ -45,8 +45,8 @@ bool fill(Spec& spec) {
       if (!make(spec.columns, spec.height, inverse)) return false;
     }
   }
-  return fft::setScratchBytes(
-      spec, core::kCacheLine + kernelBytes(spec) + fft::planeBytes(sizeOf(spec)));
+  return fft::setScratchBytes(spec,
+                              core::kCacheLine + kernelBytes(spec) + fft::planeBytes(sizeOf(spec)));
 }
 
 }  // namespace

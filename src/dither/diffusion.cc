@@ -216,7 +216,8 @@ void Stream::place(core::Parts& parts) {
       between_[r][c] = parts.take<Kel32f>(kChainDelay + kTileSteps);
   }
   for (std::size_t k = 0; k < plan_.images.channels; ++k) {
-    for (std::size_t r = 0; r < plan_.rowsAbove; ++r) errors_[r][k] = parts.take<Kel32f>(plan_.errors());
+    for (std::size_t r = 0; r < plan_.rowsAbove; ++r)
+      errors_[r][k] = parts.take<Kel32f>(plan_.errors());
   }
   for (std::size_t lane = 0; lane < plan_.lanes(); ++lane) {
     places_[lane] = {index_ * plan_.lanes() + lane,

@@ -28,9 +28,7 @@ constexpr T quotient(std::int64_t dividend, std::int64_t divisor, int scaleFacto
   return saturate<T>(truncated + (away ? (n < 0 ? -1 : 1) : 0));
 }
 
-constexpr float scaleOf(int scaleFactor) {
-  return static_cast<float>(powerOfTwo(-scaleFactor));
-}
+constexpr float scaleOf(int scaleFactor) { return static_cast<float>(powerOfTwo(-scaleFactor)); }
 
 // For v of at least 0 and below 2^31.
 constexpr std::int32_t nearestEven(float v) {

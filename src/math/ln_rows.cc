@@ -51,8 +51,8 @@ struct LnOf16s : UnaryOp {
   HWY_INLINE LnOf16s(int sf, LnFlags& f)
       : flags(f),
         factor(static_cast<float>(powerOfTwo(sf < -17 ? 17
-                                                   : sf > 5 ? -5
-                                                            : -sf))) {}
+                                             : sf > 5 ? -5
+                                                      : -sf))) {}
 
   template <class D, class V>
   HWY_INLINE V vector(D d, Nothing, V v) const {

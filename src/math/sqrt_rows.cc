@@ -39,8 +39,8 @@ struct Root : UnaryOp {
   // Beyond -17 every root but 0 saturates, beyond 9 they all give 0.
   HWY_INLINE explicit Root(int sf)
       : factor(static_cast<float>(powerOfTwo(sf < -17  ? 17
-                                                   : sf > 10 ? -10
-                                                             : -sf))) {}
+                                             : sf > 10 ? -10
+                                                       : -sf))) {}
 
   template <class D, class V>
   HWY_INLINE V vector(D d, Nothing, V v) const {

@@ -15,8 +15,7 @@ class Workspace {
  public:
   static constexpr std::size_t kWithin = 24576;
 
-  explicit Workspace(std::size_t count)
-      : within_(count <= kWithin), heap_(within_ ? 0 : count) {}
+  explicit Workspace(std::size_t count) : within_(count <= kWithin), heap_(within_ ? 0 : count) {}
 
   // Null if there is no memory.
   std::uint8_t* data() { return within_ ? block_ : heap_.as<std::uint8_t>(); }

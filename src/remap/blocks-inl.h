@@ -132,27 +132,53 @@ void ownRemap(const remap::Remapping& r) {
   }
 }
 
-// Pixels of three or four channels are vectors of 16 bytes or less, one or more side by side.
+// Pixels of three or four channels stand in blocks of 16 bytes, one or more side by side.
+
+// Vectors hold as many pixels side by side as they have blocks of 16 bytes.
+template <class DW>
+constexpr std::size_t kPixelsOf = hn::MaxLanes(DW()) < 8 ? 1 : hn::MaxLanes(DW()) / 4;
+
+// Row p repeats word p + b of 16 bytes throughout block b of 16 bytes.
+struct WordIndices {
+  std::uint8_t bytes[4][HWY_MAX_BYTES];
+};
+constexpr WordIndices kRepeatWords = [] {
+  WordIndices w{};
+  for (std::size_t p = 0; p < 4; ++p) {
+    for (std::size_t i = 0; i < HWY_MAX_BYTES; ++i)
+      w.bytes[p][i] = static_cast<std::uint8_t>((p + i / 16) % 4 * 4 + i % 4);
+  }
+  return w;
+}();
+
+// Number k of an array and those that follow it, each in the block of its pixel.
+template <std::size_t k, class DW>
+HWY_INLINE hn::Vec<DW> ofPixels(DW dw, const std::int32_t* values) {
+  const hn::Repartition<std::uint8_t, DW> d8;
+  const auto four = hn::LoadDup128(dw, values + k / 4 * 4);
+  const auto indices = hn::LoadU(d8, kRepeatWords.bytes[k % 4]);
+  return hn::BitCast(dw, hn::TableLookupBytes(hn::BitCast(d8, four), indices));
+}
 
 using FourReals = hn::CappedTag<float, 4>;
-using FourWholes = hn::RebindToSigned<FourReals>;
 
-// The samples of a pixel as floats, with one beyond the pixel where it has three.
-HWY_INLINE hn::Vec<FourReals> fourReals(const Kel8u* p) {
-  const hn::Rebind<Kel8u, FourReals> d8;
-  return hn::ConvertTo(FourReals(), hn::PromoteTo(FourWholes(), hn::LoadU(d8, p)));
+// The samples of a pixel as floats, with one beyond the pixel where it has three; or of more
+// pixels.
+template <class D>
+HWY_INLINE hn::Vec<D> realsFrom(D d, const Kel8u* p) {
+  const hn::Rebind<Kel8u, D> d8;
+  return hn::ConvertTo(d, hn::PromoteTo(hn::RebindToSigned<D>(), hn::LoadU(d8, p)));
 }
-HWY_INLINE hn::Vec<FourReals> fourReals(const Kel32f* p) { return hn::LoadU(FourReals(), p); }
+template <class D>
+HWY_INLINE hn::Vec<D> realsFrom(D d, const Kel32f* p) {
+  return hn::LoadU(d, p);
+}
 
-// Writes a pixel of four bytes, or the first three of them.
-template <int kUsed>
-HWY_INLINE void storePixel(std::int32_t pixel, Kel8u* dst) {
-  std::memcpy(dst, &pixel, kUsed);
-}
-template <int kUsed>
-HWY_INLINE void storePixel(hn::Vec<FourReals> pixel, Kel32f* dst) {
+// Writes the first kUsed samples of a pixel. last: nothing follows that may be written over.
+template <int kStored, int kUsed>
+HWY_INLINE void storePixel(hn::Vec<FourReals> pixel, Kel32f* dst, bool last) {
   const FourReals d;
-  if constexpr (kUsed == 4) {
+  if (kUsed == 4 || (kStored == 3 && !last)) {
     hn::StoreU(pixel, d, dst);
   } else {
     hn::BlendedStore(pixel, hn::FirstN(d, kUsed), d, dst);

@@ -74,39 +74,33 @@ struct CurveBytes {
   }
 };
 
-// What the kernels that go pixel by pixel take from a block's coordinates.
+// What the kernels that go pixel by pixel take from a block's coordinates: where the pixels are,
+// the weights of rows, one array for each, and those of columns, four for each pixel.
 struct CubicPlaces {
   HWY_ALIGN std::int32_t offsets[kBlock];
-  HWY_ALIGN float wx[4][kBlock];
-  HWY_ALIGN float wy[4][kBlock];
+  HWY_ALIGN float rows[4][kBlock];
+  HWY_ALIGN float columns[4 * kBlock];
 
   HWY_INLINE CubicPlaces(const remap::Remapping& r, RealVec fx, RealVec fy, int pixelBytes) {
+    const Reals d;
     const Place x(fx), y(fy);
     hn::Store(offsetsOf(r, x.whole, y.whole, pixelBytes), Wholes(), offsets);
     const CubicWeights u(x.fraction), v(y.fraction);
-    unrolled<4>([&](auto j) KELI_LAMBDA {
-      hn::Store(u.w[j], Reals(), wx[j]);
-      hn::Store(v.w[j], Reals(), wy[j]);
-    });
+    unrolled<4>([&](auto j) KELI_LAMBDA { hn::Store(v.w[j], d, rows[j]); });
+    hn::StoreInterleaved4(u.w[0], u.w[1], u.w[2], u.w[3], d, columns);
   }
 
-  // Of pixel k: what four values down a column give, or along a row.
-  template <class V>
-  HWY_INLINE static V weighted(const float (&w)[4][kBlock], std::size_t k, V p0, V p1, V p2, V p3) {
-    const FourReals d;
-    return ((p0 * hn::Set(d, w[0][k]) + p1 * hn::Set(d, w[1][k])) + p2 * hn::Set(d, w[2][k])) +
-           p3 * hn::Set(d, w[3][k]);
-  }
-
-  // Column i of pixel k, of four samples.
-  template <class T>
-  HWY_INLINE hn::Vec<FourReals> column(const remap::Remapping& r, std::size_t k,
-                                       std::ptrdiff_t bytesBeside) const {
-    const std::uint8_t* const p = r.src + offsets[k] + bytesBeside;
+  // What columns of samples of pixel k give, from sample `first` of its row on.
+  template <class T, class D>
+  HWY_INLINE hn::Vec<D> ofColumns(D d, const remap::Remapping& r, std::size_t k,
+                                  std::ptrdiff_t first) const {
+    const std::uint8_t* const p =
+        r.src + offsets[k] + first * static_cast<std::ptrdiff_t>(sizeof(T));
     const auto row = [&](std::ptrdiff_t j) KELI_LAMBDA {
-      return fourReals(reinterpret_cast<const T*>(p + j * r.srcStep));
+      return realsFrom(d, reinterpret_cast<const T*>(p + (j - 1) * r.srcStep)) *
+             hn::Set(d, rows[j][k]);
     };
-    return weighted(wy, k, row(-1), row(0), row(1), row(2));
+    return ((row(0) + row(1)) + row(2)) + row(3);
   }
 };
 
@@ -119,10 +113,8 @@ struct CurveReals {
     const Reals d;
     const CubicPlaces places(r, fx, fy, sizeof(Kel32f));
     HWY_ALIGN float columns[4 * kBlock];
-    for (std::size_t k = 0; k < kBlock; ++k) {
-      hn::Store(places.column<Kel32f>(r, k, -std::ptrdiff_t{sizeof(Kel32f)}), FourReals(),
-                columns + 4 * k);
-    }
+    for (std::size_t k = 0; k < kBlock; ++k)
+      hn::Store(places.ofColumns<Kel32f>(FourReals(), r, k, -1), FourReals(), columns + 4 * k);
     RealVec c0, c1, c2, c3;
     hn::LoadInterleaved4(d, columns, c0, c1, c2, c3);
     const CubicWeights wx(Place(fx).fraction);
@@ -130,28 +122,82 @@ struct CurveReals {
   }
 };
 
+// Pixels of three samples that stand side by side, in blocks of four.
+template <class D>
+HWY_INLINE hn::Vec<D> inBlocks(D d, hn::Vec<D> samples) {
+  constexpr std::size_t kN = hn::MaxLanes(D());
+  HWY_ALIGN static constexpr std::array<std::int32_t, kN> kSpread = [] {
+    std::array<std::int32_t, kN> indices{};
+    for (std::size_t i = 0; i < kN; ++i)
+      indices[i] = static_cast<std::int32_t>(i / 4 * 3 + (i % 4 < 3 ? i % 4 : 2));
+    return indices;
+  }();
+  return hn::TableLookupLanes(samples, hn::SetTableIndices(d, kSpread.data()));
+}
+
+// Calls f with each block of 16 bytes of a vector, in their order.
+template <class D, class F>
+HWY_INLINE void forBlocks(D, hn::Vec<D> v, const F& f) {
+#if HWY_TARGET == HWY_SCALAR
+  f(v);
+#else
+  if constexpr (hn::MaxLanes(D()) <= 4) {
+    f(v);
+  } else {
+    const hn::Half<D> dh;
+    forBlocks(dh, hn::LowerHalf(dh, v), f);
+    forBlocks(dh, hn::UpperHalf(dh, v), f);
+  }
+#endif
+}
+
+// All columns of a pixel side by side, as many as a vector has room for.
 template <class T, int kChannels, int kUsed>
 struct CurvePixels {
   using Mode = remap::Cubic<T, kChannels, kUsed>;
   static constexpr int kStored = kChannels;
 
+  static HWY_INLINE hn::Vec<FourReals> pixel(const remap::Remapping& r, const CubicPlaces& places,
+                                             std::size_t k) {
+    const hn::CappedTag<float, 16> d;
+    const hn::RebindToSigned<decltype(d)> dw;
+    constexpr std::size_t kColumns = kPixelsOf<decltype(dw)>;
+    const auto* weights = reinterpret_cast<const std::int32_t*>(places.columns + 4 * k);
+    hn::Vec<FourReals> sum = hn::Zero(FourReals());
+    unrolled<4 / kColumns>([&](auto part) KELI_LAMBDA {
+      constexpr std::size_t kFirst = part * kColumns;
+      auto columns = places.ofColumns<T>(d, r, k, (std::ptrdiff_t{kFirst} - 1) * kStored);
+      if constexpr (kStored == 3 && kColumns > 1) columns = inBlocks(d, columns);
+      std::size_t i = kFirst;
+      forBlocks(d, columns * hn::BitCast(d, ofPixels<kFirst>(dw, weights)),
+                [&](auto column) KELI_LAMBDA { sum = i++ == 0 ? column : sum + column; });
+    });
+    return sum;
+  }
+
   static HWY_INLINE void block(const remap::Remapping& r, RealVec fx, RealVec fy, T* dst) {
-    constexpr std::ptrdiff_t kPixel = kChannels * sizeof(T);
-    const CubicPlaces places(r, fx, fy, kPixel);
-    for (std::size_t k = 0; k < kBlock; ++k) {
-      const FourReals d4;
-      const auto column = [&](std::ptrdiff_t i)
-                              KELI_LAMBDA { return places.column<T>(r, k, i * kPixel); };
-      const auto result =
-          CubicPlaces::weighted(places.wx, k, column(-1), column(0), column(1), column(2));
-      if constexpr (sizeof(T) == 1) {
-        const hn::Rebind<Kel8u, FourReals> d8;
-        const auto pixel = hn::DemoteTo(d8, nearestBytes(d4, result));
-        std::uint8_t bytes[4] = {};
-        hn::StoreU(pixel, d8, bytes);
-        storePixel<kUsed>(load(reinterpret_cast<const std::int32_t*>(bytes)), dst + kStored * k);
+    const FourReals d4;
+    const CubicPlaces places(r, fx, fy, kChannels * sizeof(T));
+    if constexpr (sizeof(T) == 4) {
+      for (std::size_t k = 0; k < kBlock; ++k) {
+        storePixel<kStored, kUsed>(settledLanes(d4, pixel(r, places, k)), dst + kStored * k,
+                                   k + 1 == kBlock);
+      }
+    } else {
+      const Reals d;
+      const hn::Rebind<Kel8u, Reals> d8;
+      HWY_ALIGN float results[4 * kBlock];
+      HWY_ALIGN Kel8u bytes[4 * kBlock];
+      for (std::size_t k = 0; k < kBlock; ++k) hn::Store(pixel(r, places, k), d4, results + 4 * k);
+      unrolled<4>([&](auto j) KELI_LAMBDA {
+        const auto whole = nearestBytes(d, hn::Load(d, results + kBlock * j));
+        hn::StoreU(hn::DemoteTo(d8, whole), d8, bytes + kBlock * j);
+      });
+      if constexpr (kUsed == 4) {
+        std::memcpy(dst, bytes, sizeof(bytes));
       } else {
-        storePixel<kUsed>(settledLanes(d4, result), dst + kStored * k);
+        for (std::size_t k = 0; k < kBlock; ++k)
+          std::memcpy(dst + kStored * k, bytes + 4 * k, kUsed);
       }
     }
   }

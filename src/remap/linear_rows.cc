@@ -95,23 +95,6 @@ struct BlendReals {
   }
 };
 
-// Row p repeats word p + b of 16 bytes throughout block b of 16 bytes.
-struct WordIndices {
-  std::uint8_t bytes[4][HWY_MAX_BYTES];
-};
-constexpr WordIndices kRepeatWords = [] {
-  WordIndices w{};
-  for (std::size_t p = 0; p < 4; ++p) {
-    for (std::size_t i = 0; i < HWY_MAX_BYTES; ++i)
-      w.bytes[p][i] = static_cast<std::uint8_t>((p + i / 16) % 4 * 4 + i % 4);
-  }
-  return w;
-}();
-
-// Vectors hold as many pixels side by side as they have blocks of 16 bytes.
-template <class DW>
-constexpr std::size_t kPixelsOf = hn::MaxLanes(DW()) < 8 ? 1 : hn::MaxLanes(DW()) / 4;
-
 // The two neighbours of each pixel in a row, eight bytes, twice in its block.
 template <class DW>
 HWY_INLINE hn::Vec<DW> neighbours(DW dw, const std::uint8_t* base, const std::int32_t* offsets) {
@@ -128,15 +111,6 @@ HWY_INLINE hn::Vec<DW> neighbours(DW dw, const std::uint8_t* base, const std::in
     const auto second = hn::OddEvenBlocks(at(kPixels - 1), at(kPixels - 2));
     return hn::BitCast(dw, hn::IfThenElse(hn::FirstN(d, 4), first, second));
   }
-}
-
-// Number k of an array and those that follow it, each in the block of its pixel.
-template <std::size_t k, class DW>
-HWY_INLINE hn::Vec<DW> ofPixels(DW dw, const std::int32_t* values) {
-  const hn::Repartition<std::uint8_t, DW> d8;
-  const auto four = hn::LoadDup128(dw, values + k / 4 * 4);
-  const auto indices = hn::LoadU(d8, kRepeatWords.bytes[k % 4]);
-  return hn::BitCast(dw, hn::TableLookupBytes(hn::BitCast(d8, four), indices));
 }
 
 // Pixels of four words each, as bytes. last: nothing follows that may be written over.
@@ -207,12 +181,12 @@ struct BlendRealPixels {
       const FourReals d4;
       const auto row = [&](const std::uint8_t* p) KELI_LAMBDA {
         const auto* samples = reinterpret_cast<const float*>(p + offsets[k]);
-        return fourReals(samples) * hn::Set(d4, u[0][k]) +
-               fourReals(samples + kChannels) * hn::Set(d4, u[1][k]);
+        return realsFrom(d4, samples) * hn::Set(d4, u[0][k]) +
+               realsFrom(d4, samples + kChannels) * hn::Set(d4, u[1][k]);
       };
       const auto result =
           row(r.src) * hn::Set(d4, v[0][k]) + row(r.src + r.srcStep) * hn::Set(d4, v[1][k]);
-      storePixel<kUsed>(settledLanes(d4, result), dst + kStored * k);
+      storePixel<kStored, kUsed>(settledLanes(d4, result), dst + kStored * k, k + 1 == kBlock);
     }
   }
 };

@@ -33,8 +33,10 @@ struct TakeNearest {
     } else {
       HWY_ALIGN std::int32_t at[kBlock];
       hn::Store(offsets, d, at);
+      // Of three samples, the next pixel overwrites a fourth.
       unrolled<kBlock>([&](auto k) KELI_LAMBDA {
-        std::memcpy(dst + kStored * k, r.src + at[k], kUsed * sizeof(T));
+        constexpr std::size_t kCount = kStored == 3 && k + 1 < kBlock ? 4 : kUsed;
+        std::memcpy(dst + kStored * k, r.src + at[k], kCount * sizeof(T));
       });
     }
   }

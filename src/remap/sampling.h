@@ -165,10 +165,12 @@ struct Cubic {
 template <class T, int kStored, int kAfter>
 constexpr int readAhead() {
   constexpr int kPixel = kStored * static_cast<int>(sizeof(T));
-  if (kAfter == 0 || kStored == 1) return (kAfter + 1) * kPixel;
-  // Four samples of any pixel.
+  if (kStored == 1) return (kAfter + 1) * kPixel;
+  if (kAfter == 0) return 4 * static_cast<int>(sizeof(T));
   if (sizeof(T) == 1 && kAfter == 1) return 8;
-  return kAfter * kPixel + 4 * static_cast<int>(sizeof(T));
+  // Four samples of the next pixel, or 16 from the one before on.
+  return kAfter == 1 ? kPixel + 4 * static_cast<int>(sizeof(T))
+                     : (16 - kStored) * static_cast<int>(sizeof(T));
 }
 
 }  // namespace keli::remap
