@@ -99,7 +99,7 @@ class Columns {
   HWY_INLINE void settle(Lane* row) const {
     const LanesTag<Lane, kBytes> d;
     constexpr std::size_t kN = hn::MaxLanes(LanesTag<Lane, kBytes>());
-    if (read_ >= kN) {
+    if (read_ >= kLeast<Lane, kBytes>) {
       const Lane* const apart = row + (r_.strips.rowBytes - 64) / sizeof(T);
       if (read_ % kN != 0) storeAnywhere(d, loadAnywhere(d, apart), row + read_ - kN);
     } else if constexpr (kN * sizeof(Lane) > 16) {

@@ -25,6 +25,12 @@ using morphology::Step;
 template <class Lane, std::size_t kBytes = 64>
 using LanesTag = hn::CappedTag<Lane, kBytes / sizeof(Lane)>;
 
+// The least samples of a row that vectors of so many bytes are for: of the longest, two vectors. What
+// overlaps a vector just stored waits for it, longer where the vectors are.
+template <class Lane, std::size_t kBytes>
+constexpr std::size_t kLeast =
+    hn::MaxLanes(LanesTag<Lane, kBytes>()) * (kBytes == 64 && HWY_MAX_BYTES >= 64 ? 2 : 1);
+
 // Calls body(d, i) so that the vectors from each i on cover n samples of a row and no others; some
 // meet samples that another has met.
 template <class Lane, std::size_t kBytes = 64, class Body, class Last>
@@ -32,7 +38,7 @@ HWY_INLINE void overRow(std::size_t n, const Body& body, const Last& last) {
   const LanesTag<Lane, kBytes> d;
   constexpr std::size_t kN = hn::MaxLanes(LanesTag<Lane, kBytes>());
   std::size_t i = 0;
-  if (n < kN) {
+  if (n < kLeast<Lane, kBytes>) {
     if constexpr (kN * sizeof(Lane) > 16) {
       overRow<Lane, kN * sizeof(Lane) / 2>(n, body, last);
     } else {
@@ -99,18 +105,22 @@ struct AnyStarts {
 
 // To n samples of a row of scratch memory, which may be the one read: what is stored lies before
 // all that is still to be loaded.
-template <class Lane, class Windows>
+template <class Lane, std::size_t kBytes = 64, class Windows>
 HWY_INLINE void toScratch(const Windows& windows, std::size_t n, Lane* dst) {
-  const LanesTag<Lane> d;
-  constexpr std::size_t kN = hn::MaxLanes(LanesTag<Lane>());
+  using D = LanesTag<Lane, kBytes>;
+  const D d;
+  constexpr std::size_t kN = hn::MaxLanes(D());
+  if constexpr (kN * sizeof(Lane) == 64) {
+    if (n < kLeast<Lane, kBytes>) return toScratch<Lane, 32>(windows, n, dst);
+  }
   std::size_t i = 0;
   for (; i + 4 * kN <= n; i += 4 * kN) {
-    hn::Vec<LanesTag<Lane>> v[4];
+    hn::Vec<D> v[4];
     windows.extremes(d, i, v);
     unrolled<4>([&](auto u) KELI_LAMBDA { storeAnywhere(d, v[u], dst + i + u * kN); });
   }
   for (; i < n; i += kN) {
-    hn::Vec<LanesTag<Lane>> v[1];
+    hn::Vec<D> v[1];
     windows.extremes(d, i, v);
     storeAnywhere(d, v[0], dst + i);
   }
