@@ -146,6 +146,8 @@ std::string labelOf(const Entry& entry) {
     if (a.role == registry::Role::kMap && choices.map == Map::kRandom) random = ":random";
     if (a.role == registry::Role::kRoundMode && choices.roundMode != kelRoundNearest)
       label += ":zero";
+    if (a.role == registry::Role::kBitOffset && choices.bitOffset != 0)
+      label += ":bit" + std::to_string(choices.bitOffset);
     if (a.role == registry::Role::kDither) label += kDithers[choices.dither];
     if (a.role == registry::Role::kNoise && choices.noise != 0)
       label += ":" + std::to_string(choices.noise) + "%";

@@ -63,9 +63,11 @@ above 1 the function is faster. Before it is timed, every peer's result is compa
 function's. "alpha set" and "alpha copied" mark peers that also write the fourth sample, which the
 function leaves alone. A peer of a reduction answers numbers, which are compared; peers of norms take
 all channels as one. OpenCV's remap rounds coordinates to 1/32 of a pixel; its result may differ by what
-a smooth image changes in that distance. FFTW's plans are made by measurement before they are timed. What follows a function's name is its scale factor, its relation, the size of its mask,
-its axis, its interpolation (and "random" for a map that is not a rotation), the noise and method of
-its dither, or the number of a histogram's levels and what its image holds where that is not noise.
+a smooth image changes in that distance. FFTW's plans are made by measurement before they are timed.
+What follows a function's name is its scale factor, its relation, the size of its mask, its axis, its
+interpolation (and "random" for a map that is not a rotation), its rounding towards zero, the bit of
+its first pixel, the noise and method of its dither, or the number of a histogram's levels and what
+its image holds where that is not noise.
 
 In every row all contestants take turns over many rounds, each measured over at least 20
 microseconds, and the best time of each counts. Images come from the library's allocators; masks
@@ -120,6 +122,11 @@ def read_rows(run):
     rows = [read_row(entry) for entry in run["benchmarks"]]
     if not rows:
         raise BadRun("no rows")
+    places = set()
+    for row in rows:
+        if (row.function, row.size) in places:
+            raise BadRun(f"{row.function} at {row.size} stands twice")
+        places.add((row.function, row.size))
     return rows
 
 

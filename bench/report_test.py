@@ -75,6 +75,14 @@ class Document(unittest.TestCase):
         self.assertEqual(sizes, ["64x64", "640x480", "640x480+32", "3840x2160"])
 
 
+class Refused(unittest.TestCase):
+    def test_a_name_that_stands_twice(self):
+        run = sample_run()
+        run["benchmarks"].append(entry("data/keliCopy_8u_C3R/64x64", 0.5))
+        with self.assertRaisesRegex(report.BadRun, "keliCopy_8u_C3R at 64x64"):
+            report.document(run)
+
+
 class Chart(unittest.TestCase):
     def test_bars_are_in_proportion(self):
         root = xml.etree.ElementTree.fromstring(report.chart(sample_run()))

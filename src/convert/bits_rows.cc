@@ -131,16 +131,6 @@ void ownBitsToBytes(const Band<1>& b, std::size_t offset) {
   if (b.streams) hwy::FlushStream();
 }
 
-// Some bits of one byte, the others of which it keeps.
-HWY_INLINE void setBits(const std::uint8_t* src, std::size_t first, std::size_t n,
-                        std::uint8_t threshold, std::uint8_t* dst) {
-  unsigned bits = 0;
-  for (std::size_t x = 0; x < n; ++x) bits = 2 * bits + (src[x] > threshold ? 1 : 0);
-  const std::size_t after = 8 - first - n;
-  const unsigned mask = ((1u << n) - 1) << after;
-  *dst = static_cast<std::uint8_t>((*dst & ~mask) | bits << after);
-}
-
 // At least a vector of kBytes pixels, and whole bytes of them. The first of eight has the lowest
 // place in a mask and the highest in a byte: each eight are reversed before they are compared.
 template <std::size_t kBytes>
@@ -166,6 +156,29 @@ HWY_INLINE void gather(const std::uint8_t* src, std::size_t n, std::uint8_t thre
   step(end);
 }
 
+// Some of a byte's bits, the others of which it keeps: n from `first` on, the last n of `bits`.
+HWY_INLINE void putBits(unsigned bits, std::size_t first, std::size_t n, std::uint8_t* dst) {
+  const std::size_t after = 8 - first - n;
+  const unsigned mask = ((1u << n) - 1) << after;
+  *dst = static_cast<std::uint8_t>((*dst & ~mask) | (bits << after & mask));
+}
+
+// The bits of the n pixels before p + n, fewer than eight, the last lowest; of eight pixels where
+// at least as many can be read before their end.
+HWY_INLINE unsigned bitsBefore(const std::uint8_t* p, std::size_t n, std::size_t readable,
+                               std::uint8_t threshold) {
+  if constexpr (!kScalarTarget) {
+    if (readable >= 8) {
+      std::uint8_t eight;
+      gather<8>(p + n - 8, 8, threshold, &eight);
+      return eight;
+    }
+  }
+  unsigned bits = 0;
+  for (std::size_t x = 0; x < n; ++x) bits = 2 * bits + (p[x] > threshold ? 1 : 0);
+  return bits;
+}
+
 HWY_INLINE void wholeBytes(const std::uint8_t* src, std::size_t n, std::uint8_t threshold,
                            std::uint8_t* dst) {
   if constexpr (!kScalarTarget) {
@@ -175,7 +188,8 @@ HWY_INLINE void wholeBytes(const std::uint8_t* src, std::size_t n, std::uint8_t 
     if (kBytes > 16 && n >= 16) return gather<16>(src, n, threshold, dst);
     if (n >= 8) return gather<8>(src, n, threshold, dst);
   } else {
-    for (std::size_t x = 0; x < n; x += 8) setBits(src + x, 0, 8, threshold, dst + x / 8);
+    for (std::size_t x = 0; x < n; x += 8)
+      dst[x / 8] = static_cast<std::uint8_t>(bitsBefore(src + x, 8, 8, threshold));
   }
 }
 
@@ -184,10 +198,18 @@ void ownBytesToBits(const Band<1>& b, std::size_t offset, Kel8u threshold) {
     const std::uint8_t* const src = b.srcRow<std::uint8_t>(0, y);
     std::uint8_t* dst = b.dstRow<std::uint8_t>(y);
     const std::size_t head = std::min((8 - offset) % 8, b.n);
-    if (head != 0) setBits(src, offset, head, threshold, dst++);
+    if (head != 0) {
+      // Of eight pixels from the first on, those beyond the byte's end come off.
+      const bool more = !kScalarTarget && b.n >= 8;
+      const unsigned bits = more ? bitsBefore(src, 8, 8, threshold) >> (8 - head)
+                                 : bitsBefore(src, head, head, threshold);
+      putBits(bits, offset, head, dst++);
+    }
     const std::size_t whole = (b.n - head) / 8 * 8, rest = b.n - head - whole;
     wholeBytes(src + head, whole, threshold, dst);
-    if (rest != 0) setBits(src + head + whole, 0, rest, threshold, dst + whole / 8);
+    if (rest != 0) {
+      putBits(bitsBefore(src + head + whole, rest, b.n, threshold), 0, rest, dst + whole / 8);
+    }
   }
 }
 

@@ -25,11 +25,11 @@ using morphology::Step;
 template <class Lane, std::size_t kBytes = 64>
 using LanesTag = hn::CappedTag<Lane, kBytes / sizeof(Lane)>;
 
-// The least samples of a row that vectors of so many bytes are for: of the longest, two vectors. What
-// overlaps a vector just stored waits for it, longer where the vectors are.
+// The least samples of a row that vectors of so many bytes are for: of the longest, two vectors.
+// What overlaps a vector just stored waits for it, longer where the vectors are.
 template <class Lane, std::size_t kBytes>
-constexpr std::size_t kLeast =
-    hn::MaxLanes(LanesTag<Lane, kBytes>()) * (kBytes == 64 && HWY_MAX_BYTES >= 64 ? 2 : 1);
+constexpr std::size_t kLeast = hn::MaxLanes(LanesTag<Lane, kBytes>()) *
+                               (kBytes == 64 && HWY_MAX_BYTES >= 64 ? 2 : 1);
 
 // Calls body(d, i) so that the vectors from each i on cover n samples of a row and no others; some
 // meet samples that another has met.
