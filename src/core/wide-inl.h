@@ -108,8 +108,7 @@ HWY_INLINE hn::Vec<D> mapDoubles(D d, [[maybe_unused]] const F& f, [[maybe_unuse
 #if HWY_TARGET == HWY_SCALAR
   return hn::Zero(d);  // never run: the drivers call scalar definitions
 #else
-  constexpr std::size_t kVectorBytes = HWY_MAX_BYTES < 32 ? HWY_MAX_BYTES : 32;
-  if constexpr (hn::MaxLanes(D()) * sizeof(double) > kVectorBytes) {
+  if constexpr (hn::MaxLanes(D()) * sizeof(double) > HWY_MAX_BYTES) {
     const hn::Half<D> dh;
     const hn::Rebind<double, hn::Half<D>> dd;
     const auto lo = f(dd, hn::PromoteTo(dd, hn::LowerHalf(v))...);
