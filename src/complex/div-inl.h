@@ -54,6 +54,7 @@ template <class T, class Divide, class Watcher>
 struct Quotient {
   static constexpr std::size_t kPeriod = Watcher::kPeriod;
   static constexpr std::size_t kUnroll = 2;
+  static constexpr std::size_t kVectorBytes = 64;
   Divide divide;
   Watcher watcher;
 

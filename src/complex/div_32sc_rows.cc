@@ -46,27 +46,34 @@ struct Divide32sc {
     const auto qRe = re * scale / square, qIm = im * scale / square;
     const auto wholeRe = hn::Round(qRe), wholeIm = hn::Round(qIm);
     // Not a number where the divisor is zero, which is not certain either.
-    const auto far = hn::Max(hn::Abs(qRe - wholeRe), hn::Abs(qIm - wholeIm)) <
-                     hn::Set(dd, 0.5 - 1.0 / (1 << 19));
-    if (HWY_UNLIKELY(!hn::AllTrue(dd, far))) return byDefinition(d, y, x);
+    const auto certain = hn::Max(hn::Abs(qRe - wholeRe), hn::Abs(qIm - wholeIm)) <
+                         hn::Set(dd, 0.5 - 1.0 / (1 << 19));
     const auto parts = [&](auto v) KELI_LAMBDA {
       return hn::BitCast(d, hn::PromoteTo(dw, hn::DemoteTo(dp, v)));
     };
     const hn::Repartition<Kel32s, D> dParts;
-    return hn::BitCast(d, hn::OddEven(hn::BitCast(dParts, hn::ShiftLeft<32>(parts(wholeIm))),
-                                      hn::BitCast(dParts, parts(wholeRe))));
+    const auto quotients =
+        hn::BitCast(d, hn::OddEven(hn::BitCast(dParts, hn::ShiftLeft<32>(parts(wholeIm))),
+                                   hn::BitCast(dParts, parts(wholeRe))));
+    if (HWY_LIKELY(hn::AllTrue(dd, certain))) return quotients;
+    return corrected(d, y, x, quotients, certain);
   }
 
-  template <class D, class V>
-  HWY_NOINLINE V byDefinition(D d, V y, V x) const {
+  // The quotients with those lanes that are not certain by the definition.
+  template <class D, class V, class M>
+  HWY_NOINLINE V corrected(D d, V y, V x, V quotients, M certain) const {
     constexpr std::size_t kN = hn::MaxLanes(D());
-    std::uint64_t divisors[kN], samples[kN];
-    hn::StoreU(y, d, divisors);
-    hn::StoreU(x, d, samples);
+    HWY_ALIGN BitsOf<Kel32sc> divisors[kN], samples[kN], results[kN];
+    hn::Store(y, d, divisors);
+    hn::Store(x, d, samples);
+    hn::Store(quotients, d, results);
+    std::uint8_t bits[8];
+    hn::StoreMaskBits(hn::Rebind<double, D>(), certain, bits);
     for (std::size_t i = 0; i < kN; ++i) {
-      samples[i] = toBits(quotient(fromBits<Kel32sc>(divisors[i]), fromBits<Kel32sc>(samples[i])));
+      if ((bits[0] >> i & 1) != 0) continue;
+      results[i] = toBits(quotient(fromBits<Kel32sc>(divisors[i]), fromBits<Kel32sc>(samples[i])));
     }
-    return hn::LoadU(d, samples);
+    return hn::Load(d, results);
   }
 
   HWY_INLINE Kel32sc quotient(Kel32sc y, Kel32sc x) const {

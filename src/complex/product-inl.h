@@ -120,6 +120,7 @@ template <class T, class How>
 struct Product {
   static constexpr std::size_t kPeriod = 1;
   static constexpr std::size_t kUnroll = 2;
+  static constexpr std::size_t kVectorBytes = 64;
   int scaleFactor;
 
   template <class D>

@@ -234,30 +234,6 @@ template <class DW, class VU, class VI>
 hn::Vec<DW> addProductsOfFours(DW, hn::Vec<DW> sum, VU a, VI b);
 #endif
 
-// The lanes of even and odd by turns, signed 32-bit lanes saturated to 16 bits.
-template <class D, class V>
-HWY_INLINE hn::Vec<D> packAlternately([[maybe_unused]] D d, V even, V odd) {
-#if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
-  // The pack makes 16 bytes of four lanes of even and four of odd.
-  alignas(16) static constexpr std::uint8_t kTurns[16] = {0, 1, 8,  9,  2, 3, 10, 11,
-                                                          4, 5, 12, 13, 6, 7, 14, 15};
-  const hn::Repartition<std::uint8_t, D> d8;
-  const auto turns = hn::LoadDup128(d8, kTurns);
-  if constexpr (hn::MaxLanes(D()) == 16) {
-    return hn::TableLookupBytes(hn::Vec<D>{_mm256_packs_epi32(even.raw, odd.raw)},
-                                hn::BitCast(d, turns));
-  } else {
-    return hn::TableLookupBytes(hn::Vec<D>{_mm_packs_epi32(even.raw, odd.raw)},
-                                hn::BitCast(d, turns));
-  }
-#else
-  const hn::RepartitionToWide<D> dw;
-  const auto least = hn::Set(dw, -32768), most = hn::Set(dw, 32767);
-  const auto fit = [&](V v) KELI_LAMBDA { return hn::Min(hn::Max(v, least), most); };
-  return hn::OddEven(hn::BitCast(d, hn::ShiftLeft<16>(fit(odd))), hn::BitCast(d, fit(even)));
-#endif
-}
-
 // The odd lane of each pair, twice.
 template <class V>
 HWY_INLINE V dupOdd(V v) {
@@ -268,13 +244,14 @@ HWY_INLINE V dupOdd(V v) {
 #endif
 }
 
-// Signed lanes saturated to half their width: each 16 bytes hold those of lo, then those of hi.
+// Signed lanes saturated to half their width: each 16 bytes hold those of lo, then those of hi,
+// which begin at byte 8 in shorter vectors too.
 template <class D, class VW>
 HWY_INLINE hn::Vec<D> packSaturated([[maybe_unused]] D d, [[maybe_unused]] VW lo,
                                     [[maybe_unused]] VW hi) {
 #if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
   using T = hn::TFromD<D>;
-  if constexpr (hn::MaxLanes(D()) * sizeof(T) == 16) {
+  if constexpr (hn::MaxLanes(D()) * sizeof(T) <= 16) {
     if constexpr (std::is_same_v<T, std::uint8_t>) {
       return hn::Vec<D>{_mm_packus_epi16(lo.raw, hi.raw)};
     } else if constexpr (std::is_same_v<T, std::int8_t>) {
@@ -315,6 +292,23 @@ HWY_INLINE hn::Vec<D> packSaturated([[maybe_unused]] D d, [[maybe_unused]] VW lo
   return hn::Combine(d, hn::DemoteTo(dh, hi), hn::DemoteTo(dh, lo));
 #else
   return hn::Zero(d);  // never run: the drivers call scalar definitions
+#endif
+}
+
+// The lanes of even and odd by turns, signed 32-bit lanes saturated to 16 bits.
+template <class D, class V>
+HWY_INLINE hn::Vec<D> packAlternately([[maybe_unused]] D d, V even, V odd) {
+#if HWY_ARCH_X86 && HWY_TARGET != HWY_SCALAR
+  alignas(16) static constexpr std::uint8_t kTurns[16] = {0, 1, 8,  9,  2, 3, 10, 11,
+                                                          4, 5, 12, 13, 6, 7, 14, 15};
+  const hn::Repartition<std::uint8_t, D> d8;
+  const auto turns = hn::BitCast(d, hn::LoadDup128(d8, kTurns));
+  return hn::TableLookupBytes(packSaturated(d, even, odd), turns);
+#else
+  const hn::RepartitionToWide<D> dw;
+  const auto least = hn::Set(dw, -32768), most = hn::Set(dw, 32767);
+  const auto fit = [&](V v) KELI_LAMBDA { return hn::Min(hn::Max(v, least), most); };
+  return hn::OddEven(hn::BitCast(d, hn::ShiftLeft<16>(fit(odd))), hn::BitCast(d, fit(even)));
 #endif
 }
 

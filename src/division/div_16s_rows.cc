@@ -23,6 +23,7 @@ template <bool kByRemainder>
 struct DivideShorts {
   static constexpr std::size_t kPeriod = 1;
   static constexpr std::size_t kUnroll = 2;
+  static constexpr std::size_t kVectorBytes = 64;
   static constexpr float kBeyond = 40000;  // saturates, with or without 1 more
 
   int scaleFactor;
@@ -80,6 +81,7 @@ template <std::size_t kCycle>
 struct DivideByShorts {
   static constexpr std::size_t kPeriod = kCycle;
   static constexpr std::size_t kUnroll = kCycle == 3 ? 3 : 2;
+  static constexpr std::size_t kVectorBytes = 64;
 
   Kel16s divisors[kCycle];
   int scaleFactor;

@@ -17,6 +17,7 @@ namespace keli::HWY_NAMESPACE {
 struct DivideBytes {
   static constexpr std::size_t kPeriod = 1;
   static constexpr std::size_t kUnroll = 2;
+  static constexpr std::size_t kVectorBytes = 64;
   // R[k] is formed as a count of millionths, the nearest integer to 10^6 / k, times 10^-6. Of all
   // 10^6 / k that of k = 128 alone is a tie; the next float above 10^6 as the dividend takes it
   // upwards and moves no other across one. The product with the rounded 10^-6 is not R[k] to the

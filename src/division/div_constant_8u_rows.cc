@@ -19,6 +19,7 @@ namespace keli::HWY_NAMESPACE {
 struct DivideBytesUp {
   static constexpr std::size_t kPeriod = 1;
   static constexpr std::size_t kUnroll = 2;
+  static constexpr std::size_t kVectorBytes = 64;
   int scaleFactor;
   float factor;
 
@@ -53,6 +54,7 @@ template <std::size_t kCycle>
 struct DivideBytesDown {
   static constexpr std::size_t kPeriod = kCycle;
   static constexpr std::size_t kUnroll = kCycle == 3 ? 3 : 2;
+  static constexpr std::size_t kVectorBytes = 64;
 
   Kel8u divisors[kCycle];
   int scaleFactor;

@@ -38,6 +38,7 @@ template <class Op>
 struct NotingZeros {
   static constexpr std::size_t kPeriod = Op::kPeriod;
   static constexpr std::size_t kUnroll = Op::kUnroll;
+  static constexpr std::size_t kVectorBytes = map::kMostBytes<Op>;
 
   Op op;
   bool* zero;
@@ -81,7 +82,7 @@ HWY_INLINE Wide<D> pairUp(D d, V lower, V upper) {
 // A cycle of constants twice as wide as the samples, T unsigned, in halves.
 template <class T, std::size_t kCycle>
 struct WideCycle {
-  static constexpr std::size_t kLanes = kScalarTarget ? 1 : std::min(HWY_MAX_BYTES, 32) / sizeof(T);
+  static constexpr std::size_t kLanes = kScalarTarget ? 1 : std::min(HWY_MAX_BYTES, 64) / sizeof(T);
   static constexpr std::size_t kSize = kLanes + kCycle;  // a vector can begin at any of them
 
   T lower[kSize];
