@@ -18,6 +18,7 @@ template <class Keep>
 struct DivideFloats {
   static constexpr std::size_t kPeriod = Keep::kPeriod;
   static constexpr std::size_t kUnroll = 4;
+  static constexpr std::size_t kVectorBytes = 64;
   static constexpr std::uint32_t kNaN = 0xFFC00000;
 
   bool* zeroDivisor;

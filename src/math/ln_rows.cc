@@ -44,6 +44,7 @@ KelStatus ownLn8u(const Band<1>& b, int sf) {
 // double precision with the artanh series up to s^13.
 template <bool kDoubles>
 struct LnOf16s : UnaryOp {
+  static constexpr std::size_t kVectorBytes = 64;
   LnFlags& flags;
   float factor;
 

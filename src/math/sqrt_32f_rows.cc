@@ -21,6 +21,7 @@ template <bool kAC4>
 struct RootOf32f {
   static constexpr std::size_t kPeriod = kAC4 ? 4 : 1;
   static constexpr std::size_t kUnroll = 4;
+  static constexpr std::size_t kVectorBytes = 64;
   bool& negative;
 
   template <class D>

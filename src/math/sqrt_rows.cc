@@ -34,6 +34,7 @@ KelStatus ownSqrt8u(const Band<1>& b, int sf) {
 // differ it is by more than 1/513, and where they are equal the root is exact.
 template <class T, bool kDoubles>
 struct Root : UnaryOp {
+  static constexpr std::size_t kVectorBytes = 64;
   float factor;
 
   // Beyond -17 every root but 0 saturates, beyond 9 they all give 0.
