@@ -119,7 +119,8 @@ struct Row {
     }
   }
 
-  // n at least a vector; the first sample stands at `phase` of the cycle.
+  // n at least a vector; the first sample stands at `phase` of the cycle. kStreams: stores around
+  // the caches, or under a mask, to what they do not hold.
   template <bool kStreams, class D>
   static HWY_INLINE void vectors(D d, const Op& op, std::size_t phase, std::size_t n, TD* dst,
                                  const TS*... src) {
@@ -140,9 +141,10 @@ struct Row {
         v[u] = compute(d, op, k[u % kDistinct], (src + i + u * kN)...);
       });
       unrolled<kUnroll>([&](auto u) KELI_LAMBDA {
-        if constexpr (kStreams) {
+        if constexpr (kStreams && Keep::kPeriod == 1) {
           hn::Stream(v[u], d, dst + i + u * kN);
         } else {
+          if constexpr (kStreams) fetchAhead(dst + i + u * kN);
           Keep().put(d, k[u % kDistinct].keep, v[u], dst + i + u * kN);
         }
         keepOrder();
@@ -212,7 +214,7 @@ struct Row {
       if (head != 0) shorter<kVectorBytes>(op, head, dst, src...);
       if (head == n) return;
       const bool aligned = reinterpret_cast<std::uintptr_t>(dst + head) % kLine == 0;
-      if (Keep::kPeriod == 1 && kWhole && streams && aligned) {
+      if (streams && (Keep::kPeriod > 1 || (kWhole && aligned))) {
         vectors<true>(D(), op, head % kPeriod, n - head, dst + head, (src + head)...);
       } else {
         vectors<false>(D(), op, head % kPeriod, n - head, dst + head, (src + head)...);

@@ -68,6 +68,7 @@ struct Move {
       unrolled<Plan::kVectors>([&](auto i) KELI_LAMBDA {
         if constexpr (keepsSome()) {
           const auto written = hn::MaskFromVec(hn::LoadU(d, kWritten.data() + i * kN));
+          if constexpr (kStreams) fetchAhead(dst + i * kN);
           storeWhere(d, written, v[i], dst + i * kN);
         } else if constexpr (kStreams) {
           hn::Stream(v[i], d, dst + i * kN);
@@ -127,7 +128,8 @@ struct Move {
   // straddle lines anyway, and fewer of them do. Each block is loaded before the one ahead of it is
   // stored, which spills into it in place.
   static HWY_INLINE void blocks(const std::uint8_t* src, std::uint8_t* dst, std::size_t n,
-                                hn::Vec<BlockTag> block, const ShuffleIndices<Map, D32>& indices) {
+                                bool fetches, hn::Vec<BlockTag> block,
+                                const ShuffleIndices<Map, D32>& indices) {
     constexpr std::size_t kStepPixels = Step<D32>::Plan::kPixels;
     constexpr std::size_t kPixels = Block::kPixels;
     static constexpr auto kWritten = writtenPattern<hn::MaxLanes(BlockTag())>();
@@ -142,6 +144,7 @@ struct Move {
     const auto put = [&](std::size_t x) KELI_LAMBDA {
       const auto moved = shuffleAll(d, next, block);
       if constexpr (keepsSome()) {
+        if (fetches) fetchAhead(dst + x * Map::kDst);
         storeWhere(d, written, moved, dst + x * Map::kDst);
       } else {
         hn::StoreU(moved, d, dst + x * Map::kDst);
@@ -220,9 +223,9 @@ struct Move {
       }
       const std::size_t whole = Map::kWhole ? n : n - 1;
       if constexpr (kInBlocks) {
-        blocks(src, dst, whole, choice.block(BlockTag()), indices);
-      } else if (!keepsSome() && b.streams && onLine) {
-        steps<!keepsSome()>(D32(), src, dst, whole, indices);
+        blocks(src, dst, whole, b.streams, choice.block(BlockTag()), indices);
+      } else if (b.streams && (keepsSome() || onLine)) {
+        steps<true>(D32(), src, dst, whole, indices);
       } else {
         steps<false>(D32(), src, dst, whole, indices);
       }

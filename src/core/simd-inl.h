@@ -397,6 +397,12 @@ HWY_INLINE void storeWhere(D d, M mask, hn::Vec<D> v, hn::TFromD<D>* dst) {
 #endif
 }
 
+// Asks for a line of the destination that stores under a mask will soon meet. Beyond the caches
+// they do not make every processor fetch what follows, as loads do.
+HWY_INLINE void fetchAhead(const void* dst) {
+  __builtin_prefetch(static_cast<const std::uint8_t*>(dst) + 512, 1);
+}
+
 // Indices that repeat the first kPixel of 16 bytes, long enough to load a vector from any byte of
 // them.
 template <std::size_t kPixel>

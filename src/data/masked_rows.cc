@@ -29,7 +29,7 @@ void ownCopyMasked(const Band<2>& b) {
   for (std::size_t y = 0; y < b.rows; ++y) {
     Masked<kPixel, kUsed>::row(b.srcRow<std::uint8_t>(1, y),
                                CopySource{b.srcRow<std::uint8_t>(0, y)}, b.dstRow<std::uint8_t>(y),
-                               b.n);
+                               b.n, false);
   }
 }
 
@@ -49,7 +49,7 @@ template <std::size_t kPixel, std::size_t kUsed = kPixel>
 void ownSetMasked(const Band<1>& b, const std::uint8_t* pixel) {
   for (std::size_t y = 0; y < b.rows; ++y) {
     Masked<kPixel, kUsed>::row(b.srcRow<std::uint8_t>(0, y), SetSource<kPixel>{pixel},
-                               b.dstRow<std::uint8_t>(y), b.n);
+                               b.dstRow<std::uint8_t>(y), b.n, b.streams);
   }
 }
 
