@@ -92,7 +92,7 @@ inline Band<2> readBand(const void* src1, int src1Step, const void* src2, int sr
 }
 
 // Settles how a region is walked. One without padding becomes one long row. One that moves more
-// bytes than the second-level cache holds is stored around the caches, which spares reading the
+// bytes than the caches hold well (cache.h) is stored around them, which spares reading the
 // destination before it is overwritten; not in place, where it has just been read. unit: bytes of
 // one of the n in each source, then in the destination.
 template <int kSources>
