@@ -127,7 +127,7 @@ template <class T, Layout kLayout>
 KelStatus filterInPlace(T* srcDst, int step, KeliSize size, KeliSize mask, KeliPoint anchor) {
   const core::RoundToNearest nearest;
   BoxRows r = boxRows<T, kLayout>(srcDst, step, srcDst, step, size, mask, anchor, true);
-  const std::uint64_t rowBytes = core::wholeLines(r.b.n * sizeof(T));
+  const std::uint64_t rowBytes = core::wholeLines(std::uint64_t{r.b.n} * sizeof(T));
   // A row is not needed by masks from the one on that is anchor.y + 1 rows below it.
   const int delay = anchor.y + 1;
   const int slots = static_cast<int>(std::min<std::int64_t>(std::int64_t{delay} + 1, size.height));

@@ -163,14 +163,12 @@ HWY_INLINE void putBits(unsigned bits, std::size_t first, std::size_t n, std::ui
   *dst = static_cast<std::uint8_t>((*dst & ~mask) | (bits << after & mask));
 }
 
-// The bits of the n pixels before p + n, fewer than eight, the last lowest; of eight pixels where
-// at least as many can be read before their end.
-HWY_INLINE unsigned bitsBefore(const std::uint8_t* p, std::size_t n, std::size_t readable,
-                               std::uint8_t threshold) {
+// The bits of n pixels, at most eight, the last lowest.
+HWY_INLINE unsigned bitsOf(const std::uint8_t* p, std::size_t n, std::uint8_t threshold) {
   if constexpr (!kScalarTarget) {
-    if (readable >= 8) {
+    if (n == 8) {
       std::uint8_t eight;
-      gather<8>(p + n - 8, 8, threshold, &eight);
+      gather<8>(p, 8, threshold, &eight);
       return eight;
     }
   }
@@ -189,7 +187,7 @@ HWY_INLINE void wholeBytes(const std::uint8_t* src, std::size_t n, std::uint8_t 
     if (n >= 8) return gather<8>(src, n, threshold, dst);
   } else {
     for (std::size_t x = 0; x < n; x += 8)
-      dst[x / 8] = static_cast<std::uint8_t>(bitsBefore(src + x, 8, 8, threshold));
+      dst[x / 8] = static_cast<std::uint8_t>(bitsOf(src + x, 8, threshold));
   }
 }
 
@@ -198,18 +196,12 @@ void ownBytesToBits(const Band<1>& b, std::size_t offset, Kel8u threshold) {
     const std::uint8_t* const src = b.srcRow<std::uint8_t>(0, y);
     std::uint8_t* dst = b.dstRow<std::uint8_t>(y);
     const std::size_t head = std::min((8 - offset) % 8, b.n);
-    if (head != 0) {
-      // Of eight pixels from the first on, those beyond the byte's end come off.
-      const bool more = !kScalarTarget && b.n >= 8;
-      const unsigned bits = more ? bitsBefore(src, 8, 8, threshold) >> (8 - head)
-                                 : bitsBefore(src, head, head, threshold);
-      putBits(bits, offset, head, dst++);
-    }
+    // At the row's ends eight pixels are compared, if there are so many, and some bits kept.
+    const std::size_t few = std::min<std::size_t>(b.n, 8);
+    if (head != 0) putBits(bitsOf(src, few, threshold) >> (few - head), offset, head, dst++);
     const std::size_t whole = (b.n - head) / 8 * 8, rest = b.n - head - whole;
     wholeBytes(src + head, whole, threshold, dst);
-    if (rest != 0) {
-      putBits(bitsBefore(src + head + whole, rest, b.n, threshold), 0, rest, dst + whole / 8);
-    }
+    if (rest != 0) putBits(bitsOf(src + b.n - few, few, threshold), 0, rest, dst + whole / 8);
   }
 }
 

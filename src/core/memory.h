@@ -30,7 +30,8 @@ T* mallocImage(int width, int height, int* stepBytes) {
 
 // Vectors of scratch memory that begin on a cache line never lie in two.
 constexpr std::size_t kCacheLine = 64;
-constexpr std::size_t wholeLines(std::size_t count) {
+template <class Count>
+constexpr Count wholeLines(Count count) {
   return (count + kCacheLine - 1) / kCacheLine * kCacheLine;
 }
 inline std::uint8_t* firstLine(void* p) {

@@ -153,7 +153,7 @@ constexpr WordIndices kRepeatWords = [] {
 
 // Number k of an array and those that follow it, each in the block of its pixel.
 template <std::size_t k, class DW>
-HWY_INLINE hn::Vec<DW> ofPixels(DW dw, const std::int32_t* values) {
+HWY_INLINE hn::Vec<DW> ofPixels(DW dw, const hn::TFromD<DW>* values) {
   const hn::Repartition<std::uint8_t, DW> d8;
   const auto four = hn::LoadDup128(dw, values + k / 4 * 4);
   const auto indices = hn::LoadU(d8, kRepeatWords.bytes[k % 4]);

@@ -160,16 +160,15 @@ struct CurvePixels {
   static HWY_INLINE hn::Vec<FourReals> pixel(const remap::Remapping& r, const CubicPlaces& places,
                                              std::size_t k) {
     const hn::CappedTag<float, 16> d;
-    const hn::RebindToSigned<decltype(d)> dw;
-    constexpr std::size_t kColumns = kPixelsOf<decltype(dw)>;
-    const auto* weights = reinterpret_cast<const std::int32_t*>(places.columns + 4 * k);
+    constexpr std::size_t kColumns = kPixelsOf<decltype(d)>;
+    const float* const weights = places.columns + 4 * k;
     hn::Vec<FourReals> sum = hn::Zero(FourReals());
     unrolled<4 / kColumns>([&](auto part) KELI_LAMBDA {
       constexpr std::size_t kFirst = part * kColumns;
       auto columns = places.ofColumns<T>(d, r, k, (std::ptrdiff_t{kFirst} - 1) * kStored);
       if constexpr (kStored == 3 && kColumns > 1) columns = inBlocks(d, columns);
       std::size_t i = kFirst;
-      forBlocks(d, columns * hn::BitCast(d, ofPixels<kFirst>(dw, weights)),
+      forBlocks(d, columns * ofPixels<kFirst>(d, weights),
                 [&](auto column) KELI_LAMBDA { sum = i++ == 0 ? column : sum + column; });
     });
     return sum;
